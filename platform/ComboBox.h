@@ -1,0 +1,77 @@
+#pragma once
+/// A combo box: a single-line field of any text over a list of entries. What follows from an act of the user
+/// (completion, refusal) is its client's, through the events KeyUp and Validate.
+#include "platform/Control.h"
+#include "platform/Event.h"
+
+#include <string>
+#include <vector>
+
+class ComboBox : public SizedControl {
+public:
+    static constexpr double fixedHeightTwips = 315;
+
+    ComboBox(Form &pParent, std::string pName);
+    const char *TypeName() const override { return "ComboBox"; }
+
+    using SizedControl::Height;
+    /// The height is the platform's: writing it fails.
+    void Height(double pTwips) override;
+
+    using SizedControl::Move;
+    /// Places the box, all in twips; its height stays.
+    void Move(double pLeft, double pTop, double pWidth);
+
+    /// Setting the text shows it, also when the list doesn't hold it, makes no entry current, puts the caret
+    /// at its start and runs no check.
+    const std::string &Text() const override { return myText; }
+    void Text(const std::string &pText) override;
+
+    int ListCount() const { return static_cast<int>(myList.size()); }
+    /// Entry pIndex, from 0 to ListCount() - 1.
+    const std::string &List(int pIndex) const { return myList[static_cast<std::size_t>(pIndex)]; }
+    void AddItem(std::string pEntry);
+    void Clear();
+
+    /// The current entry, -1 for none. Setting an entry's number puts its text into Text; -1 leaves Text as
+    /// it is.
+    int ListIndex() const { return myListIndex; }
+    void ListIndex(int pIndex);
+
+    /// The first entry that begins with pStart, case ignored; -1 when there is none.
+    int FindString(const std::string &pStart) const;
+
+    /// Caret and selection, in UTF-16 units of Text. Setting the start puts the caret there and selects
+    /// nothing.
+    int SelStart() const { return mySelStart; }
+    void SelStart(int pStart);
+    int SelLength() const { return mySelLength; }
+    void SelLength(int pLength);
+
+    /// Whether the user has changed the text since the last release of a key, other than by erasing. While
+    /// keys are typed fast, one is pressed before another is released, and only this tells whether a release
+    /// has anything to answer.
+    bool WasTypedIn() const { return myWasTypedIn; }
+
+    /// The acts of the user. Key codes are the runtime's virtual-key codes; pShift is their bit field.
+    void UserPressesKey(int pKeyCode) { myLastKeyDown = pKeyCode; }
+    void UserEdits(const std::string &pText, int pSelStart);
+    void UserSelects(int pSelStart, int pSelLength);
+    void UserReleasesKey(int pKeyCode, int pShift);
+    void UserPicks(int pIndex) { ListIndex(pIndex); }
+
+    /// Asks the client whether the focus may leave the box.
+    bool MayLoseFocus() const;
+
+    Event<int, int> KeyUp;  ///< key code, shift
+    Event<bool &> Validate; ///< Cancel: set to true, it keeps the focus in the box
+
+private:
+    std::string myText;
+    std::vector<std::string> myList;
+    int myListIndex = -1;
+    int mySelStart = 0;
+    int mySelLength = 0;
+    int myLastKeyDown = 0;
+    bool myWasTypedIn = false;
+};

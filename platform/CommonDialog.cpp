@@ -1,0 +1,54 @@
+#include "platform/CommonDialog.h"
+
+#include "platform/Desktop.h"
+#include "platform/Form.h"
+#include "platform/Runtime.h"
+#include "platform/System.h"
+#include "platform/Text.h"
+
+#include <algorithm>
+
+namespace {
+
+struct PathParts {
+    std::string folder; ///< with its closing separator; empty for a bare name
+    std::string name;
+};
+
+PathParts SplitPath(const std::string &pPath) {
+    const std::string path = os::NativePath(pPath);
+    const std::size_t nameAt = path.find_last_of('/') + 1;
+    return {path.substr(0, nameAt), path.substr(nameAt)};
+}
+
+} // namespace
+
+void CommonDialog::ShowOpen() {
+    Show(Purpose::Open);
+}
+
+void CommonDialog::ShowSave() {
+    Show(Purpose::Save);
+}
+
+void CommonDialog::Show(Purpose pPurpose) {
+    const PathParts preset = SplitPath(myFileName);
+    if (!preset.folder.empty()) {
+        myLastFolder = preset.folder;
+    }
+    const std::size_t bar = std::min(myFilter.find('|'), myFilter.size());
+    FileDialogRequest request;
+    request.isSave = pPurpose == Purpose::Save;
+    request.description = Trim(std::string_view(myFilter).substr(0, bar));
+    request.pattern = bar < myFilter.size() ? Trim(std::string_view(myFilter).substr(bar + 1)) : "";
+    request.name = preset.name;
+    // The offered file's own folder is where the user expects to find it again.
+    request.folder = !preset.folder.empty() ? preset.folder : myInitDir;
+    if (!os::IsFolder(request.folder)) {
+        request.folder = os::IsFolder(myLastFolder) ? myLastFolder : "";
+    }
+    myFileName = Parent().Runtime().Desktop().ShowFileDialog(Parent(), request).value_or("");
+    if (!myFileName.empty()) {
+        myLastFolder = SplitPath(myFileName).folder;
+    }
+}

@@ -1,0 +1,45 @@
+#include "platform/Controls.h"
+
+#include "platform/Text.h"
+
+void Label::Caption(std::string pCaption) {
+    myCaption = std::move(pCaption);
+    Touch();
+}
+
+void Label::LooksLikeLink(Colour pColour) {
+    myIsLink = true;
+    myForeColor = pColour;
+    Touch();
+}
+
+void TextBox::Text(const std::string &pText) {
+    myText = pText;
+    Touch();
+}
+
+void TextBox::UserEdits(const std::string &pText) {
+    Text(WithoutNewLineBreaks(myText, pText));
+}
+
+void CommandButton::Caption(std::string pCaption) {
+    myCaption = std::move(pCaption);
+    Touch();
+}
+
+void CommandButton::Press() const {
+    if (Enabled()) {
+        Click.Raise();
+    }
+}
+
+void MenuItem::Enabled(bool pEnabled) {
+    myEnabled = pEnabled;
+    Touch();
+}
+
+void MenuItem::Choose() const {
+    if (myEnabled) {
+        Click.Raise();
+    }
+}

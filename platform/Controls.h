@@ -1,0 +1,136 @@
+#pragma once
+/// The simple controls: label, text box, button, menu item, and the still parts of a dialog (picture, line).
+/// A user's act is a verb of the control (Press, Choose, UserEdits); a desktop and the tests call the same.
+#include "platform/Control.h"
+#include "platform/Event.h"
+
+#include <cstdint>
+#include <string>
+
+/// A colour as 0xRRGGBB.
+using Colour = std::uint32_t;
+
+/// A line of text, in which "&" is an ordinary character.
+class Label : public SizedControl {
+public:
+    using SizedControl::SizedControl;
+    const char *TypeName() const override { return "Label"; }
+
+    const std::string &Caption() const { return myCaption; }
+    void Caption(std::string pCaption);
+
+    /// Makes the label look like a link: text in pColour, a pointing hand over it. It then takes clicks.
+    void LooksLikeLink(Colour pColour);
+    bool IsLink() const { return myIsLink; }
+    Colour ForeColor() const { return myForeColor; }
+
+    Event<> Click;
+
+private:
+    std::string myCaption;
+    bool myIsLink = false;
+    Colour myForeColor = 0;
+};
+
+/// A single-line field for any text, of any length.
+class TextBox : public SizedControl {
+public:
+    using SizedControl::SizedControl;
+    const char *TypeName() const override { return "TextBox"; }
+
+    const std::string &Text() const override { return myText; }
+    void Text(const std::string &pText) override;
+
+    /// The user made the text pText. Line breaks that came in with it become blanks.
+    void UserEdits(const std::string &pText);
+
+private:
+    std::string myText;
+};
+
+class CommandButton : public SizedControl {
+public:
+    enum class Picture { None, TriangleUp, TriangleDown };
+
+    using SizedControl::SizedControl;
+    const char *TypeName() const override { return "CommandButton"; }
+
+    /// "&" stands before the letter of the access key.
+    const std::string &Caption() const { return myCaption; }
+    void Caption(std::string pCaption);
+
+    /// A 16 by 16 picture shown in place of a caption.
+    Picture Shows() const { return myPicture; }
+    void Shows(Picture pPicture) { myPicture = pPicture; }
+
+    /// The form's cancel button, which the Esc key presses.
+    bool Cancel() const { return myIsCancel; }
+    void Cancel(bool pIsCancel) { myIsCancel = pIsCancel; }
+
+    /// The form's default button, which the Enter key presses.
+    bool Default() const { return myIsDefault; }
+    void Default(bool pIsDefault) { myIsDefault = pIsDefault; }
+
+    /// The user presses the button. A disabled one takes no clicks.
+    void Press() const;
+
+    Event<> Click;
+
+private:
+    std::string myCaption;
+    Picture myPicture = Picture::None;
+    bool myIsCancel = false;
+    bool myIsDefault = false;
+};
+
+/// An entry of the menu bar, or of the submenu of another entry. It has no place and no size.
+class MenuItem : public Control {
+public:
+    using Control::Control;
+    const char *TypeName() const override { return "Menu"; }
+
+    const std::string &Caption() const { return myCaption; }
+    void Caption(std::string pCaption) { myCaption = std::move(pCaption); }
+
+    /// The entry in whose submenu this one stands; none for an entry of the menu bar.
+    const MenuItem *Above() const { return myAbove; }
+    void Above(const MenuItem &pItem) { myAbove = &pItem; }
+
+    /// The shortcut in the form "Ctrl+O", or empty.
+    const std::string &Shortcut() const { return myShortcut; }
+    void Shortcut(std::string pKeys) { myShortcut = std::move(pKeys); }
+
+    bool Enabled() const { return myEnabled; }
+    void Enabled(bool pEnabled);
+
+    /// The user chooses the entry, by mouse or key. A disabled one can't be chosen.
+    void Choose() const;
+
+    Event<> Click;
+
+private:
+    std::string myCaption;
+    const MenuItem *myAbove = nullptr;
+    std::string myShortcut;
+    bool myEnabled = true;
+};
+
+/// A box that shows the program's icon.
+class PictureBox : public SizedControl {
+public:
+    using SizedControl::SizedControl;
+    const char *TypeName() const override { return "PictureBox"; }
+};
+
+/// A straight horizontal line; its Height is its thickness.
+class Line : public SizedControl {
+public:
+    using SizedControl::SizedControl;
+    const char *TypeName() const override { return "Line"; }
+
+    Colour BorderColor() const { return myBorderColor; }
+    void BorderColor(Colour pColour) { myBorderColor = pColour; }
+
+private:
+    Colour myBorderColor = 0;
+};

@@ -1,0 +1,46 @@
+#pragma once
+/// The one port from the runtime to a real desktop: what only a desktop can do.
+#include <optional>
+#include <string>
+
+class Form;
+
+struct FileDialogRequest {
+    bool isSave = false;
+    std::string description; ///< of the files offered, such as "Data (*.dat)"
+    std::string pattern;     ///< such as "*.dat"
+    std::string folder;      ///< to start in; empty: the current folder
+    std::string name;        ///< to stand in the field; may be empty
+};
+
+struct Message {
+    std::string prompt;
+    int buttons; ///< 0 OK, 1 OK and Cancel, 16 OK with the critical-stop icon
+    std::string title;
+};
+
+class Desktop {
+public:
+    virtual ~Desktop() = default;
+
+    /// Shows pMessage and waits for the user. 1: OK; 2: Cancel, also by Esc or the close box.
+    virtual int ShowMessage(const Message &pMessage) = 0;
+
+    /// Shows a file dialog over pForm and waits. The chosen path as the user gave it; nothing when dismissed.
+    /// A name that isn't there is accepted for opening as for saving, and nothing is asked before a file is
+    /// replaced.
+    virtual std::optional<std::string> ShowFileDialog(const Form &pForm,
+                                                      const FileDialogRequest &pRequest) = 0;
+
+    /// Brings pForm on screen, or to the front when it is there.
+    virtual void ShowForm(Form &pForm) = 0;
+
+    /// pForm has been unloaded: takes it off the screen.
+    virtual void CloseForm(Form &pForm) = 0;
+
+    /// Hands a document's path or a web address to what the system opens it with. Nothing is reported.
+    virtual void OpenTarget(const std::string &pTarget) = 0;
+
+    /// Ends the process at once with pStatus.
+    [[noreturn]] virtual void EndProcess(int pStatus) = 0;
+};

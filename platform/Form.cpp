@@ -1,0 +1,94 @@
+#include "platform/Form.h"
+
+#include "platform/Controls.h"
+#include "platform/Desktop.h"
+#include "platform/Runtime.h"
+
+namespace {
+
+template <typename Wanted> void PressFirst(const Form &pForm, Wanted pIsWanted) {
+    for (const auto &control : pForm.Controls()) {
+        const auto *button = dynamic_cast<const CommandButton *>(control.get());
+        if (button != nullptr && pIsWanted(*button)) {
+            button->Press();
+            return;
+        }
+    }
+}
+
+} // namespace
+
+void Form::Caption(std::string pCaption) {
+    myCaption = std::move(pCaption);
+    ++myRevision;
+}
+
+void Form::Width(float pTwips) {
+    if (pTwips != myWidth) {
+        myWidth = pTwips;
+        ++myRevision;
+        Resize.Raise();
+    }
+}
+
+void Form::Height(float pTwips) {
+    if (pTwips != myHeight) {
+        myHeight = pTwips;
+        ++myRevision;
+        Resize.Raise();
+    }
+}
+
+void Form::ClientSize(float pWidth, float pHeight) {
+    myWidth = pWidth + frameWidthTwips;
+    myHeight = pHeight + frameHeightTwips;
+}
+
+void Form::WindowState(int pState) {
+    myWindowState = pState;
+    ++myRevision;
+}
+
+void Form::Load() {
+    if (!myIsLoaded) {
+        myIsLoaded = true;
+        LoadEvent.Raise();
+    }
+}
+
+void Form::Unload() {
+    if (myIsLoaded) {
+        myIsLoaded = false;
+        myIsShown = false;
+        UnloadEvent.Raise();
+        myRuntime.Desktop().CloseForm(*this);
+    }
+}
+
+void Form::Show() {
+    Load();
+    if (!myIsShown) {
+        myIsShown = true;
+        Resize.Raise();
+    }
+    myRuntime.Desktop().ShowForm(*this);
+}
+
+void Form::UserSizes(float pClientWidth, float pClientHeight, int pState) {
+    const float width = pClientWidth + frameWidthTwips;
+    const float height = pClientHeight + frameHeightTwips;
+    if (width != myWidth || height != myHeight || pState != myWindowState) {
+        myWidth = width;
+        myHeight = height;
+        myWindowState = pState;
+        Resize.Raise();
+    }
+}
+
+void Form::UserPressesEscape() const {
+    PressFirst(*this, [](const CommandButton &pButton) { return pButton.Cancel(); });
+}
+
+void Form::UserPressesEnter() const {
+    PressFirst(*this, [](const CommandButton &pButton) { return pButton.Default(); });
+}

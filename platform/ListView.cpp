@@ -1,0 +1,124 @@
+#include "platform/ListView.h"
+
+#include <algorithm>
+
+void ListItem::Text(const std::string &pText) {
+    myText = pText;
+    myOwner.RowsChanged();
+}
+
+int ListItem::Index() const {
+    const int selected = myOwner.SelectedIndex();
+    if (selected > 0 && &myOwner.ListItems(selected) == this) {
+        return selected;
+    }
+    int index = 1;
+    while (&myOwner.ListItems(index) != this) {
+        ++index;
+    }
+    return index;
+}
+
+void ListItem::Select() {
+    myOwner.SelectedItem(this);
+}
+
+const std::string &ListItem::SubItems(int pIndex) const {
+    static const std::string none;
+    return pIndex >= 1 && pIndex <= SubItemCount() ? mySubItems[static_cast<std::size_t>(pIndex - 1)] : none;
+}
+
+void ListItem::SubItems(int pIndex, const std::string &pText) {
+    if (pIndex < 1) {
+        return;
+    }
+    if (pIndex > SubItemCount()) {
+        mySubItems.resize(static_cast<std::size_t>(pIndex));
+    }
+    mySubItems[static_cast<std::size_t>(pIndex - 1)] = pText;
+    myOwner.RowsChanged();
+}
+
+ListItem &ListItems::Add(int pIndex, const std::string &pText) {
+    const auto place = myItems.begin() + (pIndex - 1);
+    ListItem &item = **myItems.insert(place, std::make_unique<ListItem>(myOwner, pText));
+    myOwner.ItemAdded(pIndex);
+    return item;
+}
+
+void ListItems::Remove(int pIndex) {
+    myItems.erase(myItems.begin() + (pIndex - 1));
+    myOwner.ItemRemoved(pIndex);
+}
+
+void ListItems::Clear() {
+    myItems.clear();
+    myOwner.mySelected = 0;
+    myOwner.myCurrent = 0;
+    myOwner.RowsChanged();
+}
+
+void ColumnHeaders::Add(std::string pText) {
+    myHeaders.push_back({std::move(pText), 0});
+    myOwner.ColumnsChanged();
+}
+
+void ColumnHeaders::Width(int pIndex, float pTwips) {
+    myHeaders[static_cast<std::size_t>(pIndex - 1)].Width = pTwips;
+    myOwner.ColumnsChanged();
+}
+
+ListView::ListView(Form &pParent, std::string pName)
+    : SizedControl(pParent, std::move(pName)), ListItems(*this), ColumnHeaders(*this) {}
+
+void ListView::View(ViewStyle pView) {
+    myView = pView;
+    Touch();
+}
+
+ListItem *ListView::SelectedItem() const {
+    return mySelected == 0 ? nullptr : &ListItems(mySelected);
+}
+
+void ListView::SelectedItem(const ListItem *pItem) {
+    mySelected = pItem == nullptr ? 0 : pItem->Index();
+    if (mySelected != 0) {
+        myCurrent = mySelected;
+    }
+    Touch();
+}
+
+void ListView::Pick(int pIndex) {
+    ListItem &item = ListItems(pIndex);
+    mySelected = pIndex;
+    myCurrent = pIndex;
+    Touch();
+    ItemClick.Raise(item);
+}
+
+void ListView::RowsChanged() {
+    ++myRowsRevision;
+    Touch();
+}
+
+void ListView::ColumnsChanged() {
+    ++myColumnsRevision;
+    Touch();
+}
+
+void ListView::ItemAdded(int pIndex) {
+    mySelected += pIndex <= mySelected ? 1 : 0;
+    myCurrent = std::max(myCurrent + (pIndex <= myCurrent ? 1 : 0), 1);
+    RowsChanged();
+}
+
+void ListView::ItemRemoved(int pIndex) {
+    // The item behind a removed one moves into its place, so only what stood further down changes its number;
+    // behind the last one there is none, and the new last takes over.
+    const auto follow = [&](int pPlace) {
+        return std::min(pPlace - (pIndex < pPlace ? 1 : 0), ListItems.Count());
+    };
+    mySelected = follow(mySelected);
+    myCurrent = follow(myCurrent);
+    RowsChanged();
+}

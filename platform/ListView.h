@@ -1,0 +1,133 @@
+#pragma once
+/// The list control in report view: items of a text and sub items under column headings, at most one of them
+/// selected. Positions count from 1 and are ints. It holds the rows once; a desktop reads them where they
+/// are.
+#include "platform/Control.h"
+#include "platform/Event.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+class ListView;
+
+/// One row of a ListView: Text is column 0, sub item i is column i.
+class ListItem {
+public:
+    ListItem(ListView &pOwner, std::string pText) : myOwner(pOwner), myText(std::move(pText)) {}
+
+    const std::string &Text() const { return myText; }
+    void Text(const std::string &pText);
+
+    /// Place in the list, from 1.
+    int Index() const;
+
+    /// Makes this the selected item.
+    void Select();
+
+    int SubItemCount() const { return static_cast<int>(mySubItems.size()); }
+    /// The text of sub item pIndex, from 1; empty where there is none.
+    const std::string &SubItems(int pIndex) const;
+    /// Sets the text of sub item pIndex, from 1, and makes it and those before it where they are missing.
+    void SubItems(int pIndex, const std::string &pText);
+
+private:
+    ListView &myOwner;
+    std::string myText;
+    std::vector<std::string> mySubItems;
+};
+
+/// The items of a ListView in their order.
+class ListItems {
+public:
+    explicit ListItems(ListView &pOwner) : myOwner(pOwner) {}
+
+    int Count() const { return static_cast<int>(myItems.size()); }
+    /// Item pIndex, from 1 to Count().
+    ListItem &operator()(int pIndex) const { return *myItems[static_cast<std::size_t>(pIndex - 1)]; }
+
+    /// A new item at the end.
+    ListItem &Add(const std::string &pText) { return Add(Count() + 1, pText); }
+    /// A new item at pIndex, from 1 to Count() + 1; the items from there on move one place down.
+    ListItem &Add(int pIndex, const std::string &pText);
+    /// Removes item pIndex. When it was the selected one, the item that takes its place is selected, or the
+    /// new last one when it was the last.
+    void Remove(int pIndex);
+    void Clear();
+
+private:
+    ListView &myOwner;
+    std::vector<std::unique_ptr<ListItem>> myItems;
+};
+
+struct ColumnHeader {
+    std::string Text;
+    float Width = 0; ///< twips; a negative width shows as 0
+};
+
+/// The columns of a ListView, from 1.
+class ColumnHeaders {
+public:
+    explicit ColumnHeaders(ListView &pOwner) : myOwner(pOwner) {}
+
+    int Count() const { return static_cast<int>(myHeaders.size()); }
+    const ColumnHeader &operator()(int pIndex) const {
+        return myHeaders[static_cast<std::size_t>(pIndex - 1)];
+    }
+    void Add(std::string pText);
+    void Width(int pIndex, float pTwips);
+
+private:
+    ListView &myOwner;
+    std::vector<ColumnHeader> myHeaders;
+};
+
+class ListView : public SizedControl {
+public:
+    enum class ViewStyle { Icon = 0, Report = 3 };
+
+    ListView(Form &pParent, std::string pName);
+    const char *TypeName() const override { return "ListView"; }
+
+    ViewStyle View() const { return myView; }
+    void View(ViewStyle pView);
+
+    ::ListItems ListItems;
+    ::ColumnHeaders ColumnHeaders;
+
+    /// The selected item, or nothing.
+    ListItem *SelectedItem() const;
+    /// Makes pItem the only selected one; nothing clears the selection.
+    void SelectedItem(const ListItem *pItem);
+    /// Place of the selected item, from 1; 0 when there is none.
+    int SelectedIndex() const { return mySelected; }
+
+    /// Place of the item that the keys start from, from 1; 0 in an empty list. It stays when the selection
+    /// is cleared.
+    int CurrentIndex() const { return myCurrent; }
+
+    /// The user picks item pIndex (from 1 to Count), by mouse or key, also when it is selected already.
+    void Pick(int pIndex);
+
+    /// Go up when rows or cells, the selection, or the columns have changed.
+    int RowsRevision() const { return myRowsRevision; }
+    int ColumnsRevision() const { return myColumnsRevision; }
+
+    Event<ListItem &> ItemClick;
+
+private:
+    friend class ::ListItem;
+    friend class ::ListItems;
+    friend class ::ColumnHeaders;
+
+    void RowsChanged();
+    void ColumnsChanged();
+    void ItemAdded(int pIndex);
+    void ItemRemoved(int pIndex);
+
+    ViewStyle myView = ViewStyle::Icon;
+    int mySelected = 0;
+    int myCurrent = 0;
+    int myRowsRevision = 1;
+    int myColumnsRevision = 1;
+};

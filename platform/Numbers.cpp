@@ -1,0 +1,146 @@
+#include "platform/Numbers.h"
+
+#include "platform/Text.h"
+
+#include <charconv>
+#include <cmath>
+#include <limits>
+
+namespace {
+
+bool IsDigit(char pCharacter) {
+    return pCharacter >= '0' && pCharacter <= '9';
+}
+
+/// How many characters of pText, from the first, form a number; 0 when none do.
+std::size_t NumberLength(std::string_view pText) {
+    std::size_t at = 0;
+    const auto digits = [&] {
+        const std::size_t from = at;
+        while (at < pText.size() && IsDigit(pText[at])) {
+            ++at;
+        }
+        return at - from;
+    };
+    if (at < pText.size() && (pText[at] == '+' || pText[at] == '-')) {
+        ++at;
+    }
+    std::size_t count = digits();
+    if (at < pText.size() && pText[at] == '.') {
+        ++at;
+        count += digits();
+    }
+    if (count == 0) {
+        return 0;
+    }
+    const std::size_t mantissaEnd = at;
+    if (at < pText.size() && (pText[at] == 'e' || pText[at] == 'E')) {
+        ++at;
+        if (at < pText.size() && (pText[at] == '+' || pText[at] == '-')) {
+            ++at;
+        }
+        if (digits() == 0) {
+            return mantissaEnd; // "5e" is the number 5 with a letter behind it.
+        }
+    }
+    return at;
+}
+
+/// A number too large for a double or too small: whether it is the one or the other shows in where its first
+/// digit other than 0 stands, corrected by the exponent. The exponent itself may be too long to be read.
+double BeyondDouble(std::string_view pNumber) {
+    const bool negative = pNumber.front() == '-';
+    const std::size_t letter = pNumber.find_first_of("eE");
+    const std::string_view mantissa = pNumber.substr(0, letter);
+    const std::size_t first = mantissa.find_first_of("123456789");
+    if (first == std::string_view::npos) {
+        return 0;
+    }
+    const std::size_t point = std::min(mantissa.find('.'), mantissa.size());
+    const double place = static_cast<double>(point) - static_cast<double>(first);
+    double exponent = 0;
+    if (letter != std::string_view::npos) {
+        for (const char digit : pNumber.substr(letter + 1)) {
+            exponent = IsDigit(digit) ? exponent * 10 + (digit - '0') : exponent;
+        }
+        exponent = pNumber[letter + 1] == '-' ? -exponent : exponent;
+    }
+    if (place + exponent < 0) {
+        return 0;
+    }
+    const double infinite = std::numeric_limits<double>::infinity();
+    return negative ? -infinite : infinite;
+}
+
+/// The value of pNumber, all of which is a number by NumberLength.
+double ValueOf(std::string_view pNumber) {
+    const std::string_view unsignedPlus = pNumber.front() == '+' ? pNumber.substr(1) : pNumber;
+    double value = 0;
+    const auto [end, error] =
+        std::from_chars(unsignedPlus.data(), unsignedPlus.data() + unsignedPlus.size(), value);
+    return error == std::errc::result_out_of_range ? BeyondDouble(pNumber) : value;
+}
+
+template <typename Whole> std::optional<Whole> Narrowed(double pValue) {
+    const double rounded = std::nearbyint(pValue); // the default rounding mode: half to even
+    if (!(rounded >= std::numeric_limits<Whole>::min() && rounded <= std::numeric_limits<Whole>::max())) {
+        return std::nullopt;
+    }
+    return static_cast<Whole>(rounded);
+}
+
+} // namespace
+
+double Val(std::string_view pText) {
+    std::string packed;
+    for (const char character : pText) {
+        if (character != ' ' && character != '\t') {
+            packed += character;
+        }
+    }
+    const std::size_t length = NumberLength(packed);
+    return length == 0 ? 0 : ValueOf(std::string_view(packed).substr(0, length));
+}
+
+std::optional<std::int16_t> Integer16(double pValue) {
+    return Narrowed<std::int16_t>(pValue);
+}
+
+std::optional<std::int32_t> Integer32(double pValue) {
+    return Narrowed<std::int32_t>(pValue);
+}
+
+std::optional<double> WholeNumber(std::string_view pText) {
+    const std::string_view number = Trim(pText);
+    if (number.empty() || NumberLength(number) != number.size()) {
+        return std::nullopt;
+    }
+    return ValueOf(number);
+}
+
+std::optional<std::int16_t> WholeTextInteger(std::string_view pText) {
+    const std::optional<double> number = WholeNumber(pText);
+    return number ? Integer16(*number) : std::nullopt;
+}
+
+std::string FormatWhole(double pValue) {
+    const double rounded = std::round(pValue); // half away from zero
+    if (rounded == 0 || !std::isfinite(rounded)) {
+        return "0"; // never "-0"
+    }
+    std::string digits(std::numeric_limits<double>::max_exponent10 + 3, '\0');
+    const auto [end, error] =
+        std::to_chars(digits.data(), digits.data() + digits.size(), rounded, std::chars_format::fixed, 0);
+    digits.resize(static_cast<std::size_t>(end - digits.data()));
+    return digits;
+}
+
+std::string FormatDigits(int pValue, int pDigits) {
+    std::string digits = std::to_string(pValue);
+    const auto wanted = static_cast<std::size_t>(pDigits);
+    return digits.size() < wanted ? std::string(wanted - digits.size(), '0') + digits : digits;
+}
+
+std::string Str(int pValue) {
+    return pValue < 0 ? std::to_string(pValue) : " " + std::to_string(pValue);
+}

@@ -1,0 +1,175 @@
+#include "platform/Text.h"
+
+#include "platform/System.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr CodePoint SingleByte(unsigned char pByte, bool pIsValid) {
+    return {pByte, 1, pIsValid};
+}
+
+/// How many bytes a character has that begins with pLead; 0 for a byte that begins none.
+std::size_t LengthByLead(unsigned char pLead) {
+    if (pLead < 0x80) {
+        return 1;
+    }
+    if (pLead >= 0xC2 && pLead <= 0xDF) {
+        return 2;
+    }
+    if (pLead >= 0xE0 && pLead <= 0xEF) {
+        return 3;
+    }
+    return pLead >= 0xF0 && pLead <= 0xF4 ? 4 : 0;
+}
+
+/// pCodePoint in lower case; a byte that is no character has no case.
+char32_t Folded(const CodePoint &pCodePoint) {
+    if (pCodePoint.value < 0x80) {
+        const bool isCapital = pCodePoint.value >= U'A' && pCodePoint.value <= U'Z';
+        return isCapital ? pCodePoint.value + (U'a' - U'A') : pCodePoint.value;
+    }
+    return pCodePoint.isValid ? os::LowerCase(pCodePoint.value) : pCodePoint.value;
+}
+
+/// Whether two characters are the same but for case. A stray byte is never equal to the character of its
+/// number.
+bool SameIgnoringCase(const CodePoint &pOne, const CodePoint &pOther) {
+    return pOne.isValid == pOther.isValid && Folded(pOne) == Folded(pOther);
+}
+
+struct Comparison {
+    bool isStartOf;  ///< all of the shorter text was matched
+    std::size_t end; ///< how far the longer one was read
+};
+
+Comparison MatchStart(std::string_view pText, std::string_view pStart) {
+    std::size_t at = 0;
+    for (std::size_t from = 0; from < pStart.size();) {
+        if (at >= pText.size()) {
+            return {false, at};
+        }
+        const CodePoint wanted = CodePointAt(pStart, from);
+        const CodePoint found = CodePointAt(pText, at);
+        if (!SameIgnoringCase(wanted, found)) {
+            return {false, at};
+        }
+        from += wanted.length;
+        at += found.length;
+    }
+    return {true, at};
+}
+
+bool IsLineBreak(char pCharacter) {
+    return pCharacter == '\r' || pCharacter == '\n';
+}
+
+} // namespace
+
+CodePoint CodePointAt(std::string_view pText, std::size_t pAt) {
+    const auto byteAt = [&](std::size_t pIndex) { return static_cast<unsigned char>(pText[pIndex]); };
+    const unsigned char lead = byteAt(pAt);
+    const std::size_t length = LengthByLead(lead);
+    if (length == 1) {
+        return SingleByte(lead, true);
+    }
+    if (length == 0 || pAt + length > pText.size()) {
+        return SingleByte(lead, false);
+    }
+    char32_t value = lead & (0xFFU >> (length + 1));
+    for (std::size_t i = 1; i < length; ++i) {
+        if ((byteAt(pAt + i) & 0xC0U) != 0x80U) {
+            return SingleByte(lead, false);
+        }
+        value = (value << 6U) | (byteAt(pAt + i) & 0x3FU);
+    }
+    const bool isOverlong = (length == 3 && value < 0x800) || (length == 4 && value < 0x10000);
+    const bool isSurrogate = value >= 0xD800 && value <= 0xDFFF;
+    if (isOverlong || isSurrogate || value > 0x10FFFF) {
+        return SingleByte(lead, false);
+    }
+    return {value, length, true};
+}
+
+void AppendUtf8(std::string &pText, char32_t pCharacter) {
+    const auto tail = [&](unsigned pShift) {
+        return static_cast<char>(0x80U | ((pCharacter >> pShift) & 0x3FU));
+    };
+    if (pCharacter < 0x80) {
+        pText += static_cast<char>(pCharacter);
+    } else if (pCharacter < 0x800) {
+        pText += {static_cast<char>(0xC0U | (pCharacter >> 6U)), tail(0)};
+    } else if (pCharacter < 0x10000) {
+        pText += {static_cast<char>(0xE0U | (pCharacter >> 12U)), tail(6), tail(0)};
+    } else {
+        pText += {static_cast<char>(0xF0U | (pCharacter >> 18U)), tail(12), tail(6), tail(0)};
+    }
+}
+
+std::string_view Trim(std::string_view pText) {
+    const std::size_t first = pText.find_first_not_of(' ');
+    if (first == std::string_view::npos) {
+        return {};
+    }
+    return pText.substr(first, pText.find_last_not_of(' ') - first + 1);
+}
+
+std::string LCase(std::string_view pText) {
+    std::string lower;
+    lower.reserve(pText.size());
+    for (std::size_t at = 0; at < pText.size();) {
+        const CodePoint character = CodePointAt(pText, at);
+        if (character.isValid) {
+            AppendUtf8(lower, Folded(character));
+        } else {
+            lower += pText[at];
+        }
+        at += character.length;
+    }
+    return lower;
+}
+
+bool EqualIgnoringCase(std::string_view pOne, std::string_view pOther) {
+    const Comparison match = MatchStart(pOne, pOther);
+    return match.isStartOf && match.end == pOne.size();
+}
+
+bool BeginsWithIgnoringCase(std::string_view pText, std::string_view pStart) {
+    return MatchStart(pText, pStart).isStartOf;
+}
+
+int Utf16Length(std::string_view pText) {
+    int units = 0;
+    for (std::size_t at = 0; at < pText.size();) {
+        const CodePoint character = CodePointAt(pText, at);
+        units += character.length == 4 ? 2 : 1;
+        at += character.length;
+    }
+    return units;
+}
+
+std::string WithoutNewLineBreaks(std::string_view pBefore, std::string_view pAfter) {
+    if (std::none_of(pAfter.begin(), pAfter.end(), IsLineBreak)) {
+        return std::string(pAfter);
+    }
+    // What both ends have in common was there before; the edit is what lies between.
+    const std::size_t most = std::min(pBefore.size(), pAfter.size());
+    std::size_t front = 0;
+    while (front < most && pBefore[front] == pAfter[front]) {
+        ++front;
+    }
+    std::size_t back = 0;
+    while (back < most - front && pBefore[pBefore.size() - 1 - back] == pAfter[pAfter.size() - 1 - back]) {
+        ++back;
+    }
+    std::string text(pAfter.substr(0, front));
+    const std::size_t end = pAfter.size() - back;
+    for (std::size_t at = front; at < end; ++at) {
+        const bool isPair = pAfter[at] == '\r' && at + 1 < end && pAfter[at + 1] == '\n';
+        at += isPair ? 1 : 0;
+        text += IsLineBreak(pAfter[at]) ? ' ' : pAfter[at];
+    }
+    text += pAfter.substr(end);
+    return text;
+}

@@ -1,0 +1,40 @@
+#pragma once
+/// Texts in memory: UTF-8 in std::string, in which bytes that are not UTF-8 may stand and survive. Comparison
+/// is by bytes unless a function here says otherwise.
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+/// One character of a text, or one byte that is part of no UTF-8 character.
+struct CodePoint {
+    char32_t value;     ///< the character; the byte itself when not valid
+    std::size_t length; ///< bytes taken, 1 to 4
+    bool isValid;
+};
+
+/// The character that begins at byte pAt (below pText.size()). Overlong forms, surrogates and values above
+/// U+10FFFF are not valid UTF-8 (Unicode 15, table 3-7).
+CodePoint CodePointAt(std::string_view pText, std::size_t pAt);
+
+/// Appends pCharacter (0 to 0x10FFFF) to pText as UTF-8.
+void AppendUtf8(std::string &pText, char32_t pCharacter);
+
+/// pText without the blanks (U+0020 only) at both ends.
+std::string_view Trim(std::string_view pText);
+
+/// pText in lower case, character by character, by the system's own rule for Unicode.
+std::string LCase(std::string_view pText);
+
+/// Whether LCase of both is the same text.
+bool EqualIgnoringCase(std::string_view pOne, std::string_view pOther);
+
+/// Whether LCase of pText begins with LCase of pStart.
+bool BeginsWithIgnoringCase(std::string_view pText, std::string_view pStart);
+
+/// Length of pText in UTF-16 units, in which caret places and selections count; a byte that is not UTF-8 is
+/// one unit.
+int Utf16Length(std::string_view pText);
+
+/// pAfter, the text of a single-line field after an edit of pBefore, with each line break that the edit
+/// brought in (CR, LF or CR LF) made a blank. Line breaks that pBefore had stay.
+std::string WithoutNewLineBreaks(std::string_view pBefore, std::string_view pAfter);
