@@ -1,0 +1,155 @@
+#include "data/clsDatFile.h"
+
+#include "platform/Files.h"
+#include "platform/Numbers.h"
+#include "platform/Runtime.h"
+
+#include <utility>
+
+namespace {
+
+constexpr std::int16_t fmtDat = 0;
+constexpr std::int16_t fmtCsv = 1;
+constexpr std::int16_t fmtCsvWithHeaders = 2;
+
+[[noreturn]] void StopOutOfBounds(const Runtime &pRuntime, const std::string &pWhat, std::int16_t pValue) {
+    pRuntime.MsgBox("clsDatFile." + pWhat + " out of bounds (" + Str(pValue) + ")");
+    pRuntime.End(1);
+}
+
+} // namespace
+
+bool clsDatFile::Exists() const {
+    return !myFn.empty() && !Dir(myFn).empty();
+}
+
+std::string clsDatFile::FileType() const {
+    return myFmt == fmtCsv || myFmt == fmtCsvWithHeaders ? "csv" : "dat";
+}
+
+void clsDatFile::Rows(std::int16_t n) {
+    if (n < 1) {
+        StopOutOfBounds(myRuntime, "Rows", n);
+    }
+    myRows = n;
+}
+
+void clsDatFile::Cols(std::int16_t n) {
+    if (n < 1) {
+        StopOutOfBounds(myRuntime, "Cols", n);
+    }
+    myCols = n;
+}
+
+bool clsDatFile::IsValid(int pRow, int pCol) const {
+    return pRow >= 0 && pRow < myRows && pCol >= 0 && pCol < myCols;
+}
+
+const std::string *clsDatFile::Cell(int pRow, int pCol) const {
+    if (!IsValid(pRow, pCol) || std::cmp_greater_equal(pRow, myData.size())) {
+        return nullptr;
+    }
+    const std::vector<std::string> &row = myData[static_cast<std::size_t>(pRow)];
+    return std::cmp_less(pCol, row.size()) ? &row[static_cast<std::size_t>(pCol)] : nullptr;
+}
+
+void clsDatFile::Data(std::int16_t pRow, std::int16_t pCol, std::string pValue) {
+    if (!IsValid(pRow, pCol) || std::cmp_greater_equal(pRow, myData.size()) || pCol >= myStoredCols) {
+        return;
+    }
+    std::vector<std::string> &row = myData[static_cast<std::size_t>(pRow)];
+    if (std::cmp_greater_equal(pCol, row.size())) {
+        row.resize(static_cast<std::size_t>(pCol) + 1);
+    }
+    row[static_cast<std::size_t>(pCol)] = std::move(pValue);
+}
+
+std::string clsDatFile::Data(std::int16_t pRow, std::int16_t pCol) const {
+    const std::string *cell = Cell(pRow, pCol);
+    return cell == nullptr ? std::string() : *cell;
+}
+
+std::vector<std::string> clsDatFile::Col(std::int16_t x) const {
+    std::vector<std::string> column;
+    for (std::int16_t row = 0; row < myRows; ++row) {
+        column.push_back(Data(row, x));
+    }
+    return column;
+}
+
+void clsDatFile::MoveRowUp(std::int16_t pRow) {
+    if (pRow < 1 || pRow >= myRows) {
+        return;
+    }
+    const auto above = static_cast<std::int16_t>(pRow - 1);
+    for (std::int16_t col = 0; col < myCols; ++col) {
+        std::string kept = Data(above, col);
+        Data(above, col, Data(pRow, col));
+        Data(pRow, col, std::move(kept));
+    }
+}
+
+void clsDatFile::Clear() {
+    myData.assign(static_cast<std::size_t>(myRows), {});
+    myStoredCols = myCols;
+}
+
+void clsDatFile::Load() {
+    myFault = {};
+    switch (myFmt) {
+    case fmtDat:
+        LoadDat();
+        break;
+    case fmtCsv:
+        LoadCsv(/*pHasHeaders=*/false);
+        break;
+    case fmtCsvWithHeaders:
+        LoadCsv(/*pHasHeaders=*/true);
+        break;
+    default:
+        break;
+    }
+}
+
+void clsDatFile::Save() {
+    myFault = {};
+    switch (myFmt) {
+    case fmtDat:
+        SaveDat();
+        break;
+    case fmtCsv:
+        SaveCsv(/*pHasHeaders=*/false);
+        break;
+    case fmtCsvWithHeaders:
+        SaveCsv(/*pHasHeaders=*/true);
+        break;
+    default:
+        break;
+    }
+}
+
+void clsDatFile::StopWithoutFileName() const {
+    if (myFn.empty()) {
+        myRuntime.MsgBox("clsDatFile.Load: Filename not set");
+        myRuntime.End(1);
+    }
+}
+
+void clsDatFile::Refuse(Fault::Kind pKind, const std::string &pText) {
+    myFault = {pKind, "File " + myFn + " " + pText};
+}
+
+bool clsDatFile::TakeFaultOf(const TextInput &pFile) {
+    if (pFile.Fault().empty()) {
+        return false;
+    }
+    EmptyTable(0);
+    Refuse(Fault::Kind::NotRead, "can't be read: " + pFile.Fault() + ".");
+    return true;
+}
+
+void clsDatFile::EmptyTable(std::size_t pCols) {
+    myRows = 0;
+    myCols = static_cast<std::int16_t>(pCols);
+    Clear();
+}

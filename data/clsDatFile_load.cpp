@@ -1,0 +1,135 @@
+// The two readers. They differ in how they learn the table's size and in what a ragged line leaves: the .dat
+// reader keeps the announced number of rows, the rest of them empty; the CSV reader has just the rows before.
+#include "data/clsDatFile.h"
+
+#include "data/modGetWords.h"
+#include "platform/Files.h"
+#include "platform/Numbers.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+using modGetWords::GetWords;
+
+/// One of the two numbers on the first line. Text that isn't numeric counts as 0; nothing when it is missing.
+std::optional<double> SizeItem(TextInput &pFile) {
+    const std::optional<std::string_view> item = pFile.InputItem();
+    return item ? std::optional(WholeNumber(*item).value_or(0)) : std::nullopt;
+}
+
+std::size_t WordCount(const std::vector<std::string> &pWords) {
+    return pWords.size() - 1;
+}
+
+} // namespace
+
+std::vector<std::string> clsDatFile::NextRow(TextInput &pFile) {
+    return GetWords(pFile.LineInput());
+}
+
+void clsDatFile::StoreRow(int pRow, std::vector<std::string> pWords) {
+    std::vector<std::string> &row = myData[static_cast<std::size_t>(pRow)];
+    row.assign(std::make_move_iterator(pWords.begin() + 1), std::make_move_iterator(pWords.end()));
+}
+
+void clsDatFile::TakeSizeFrom(TextInput &pFile) {
+    const std::optional<double> rows = SizeItem(pFile);
+    const std::optional<double> cols = SizeItem(pFile);
+    pFile.LineInput(); // Whatever else the first line holds.
+    const std::optional<std::int16_t> fittingCols = cols ? Integer16(*cols) : std::nullopt;
+    if (!rows || !fittingCols || *fittingCols < 0) {
+        EmptyTable(0);
+        return;
+    }
+    const std::optional<std::int16_t> fittingRows = Integer16(*rows);
+    if (!fittingRows && *rows > mostRows) {
+        EmptyTable(static_cast<std::size_t>(*fittingCols));
+        Refuse(Fault::Kind::WrongSize, "announces " + FormatWhole(*rows) +
+                                           " records. A table holds at most " + std::to_string(mostRows) +
+                                           ", so none were read.");
+        return;
+    }
+    if (!fittingRows || *fittingRows < 0) {
+        EmptyTable(0);
+        return;
+    }
+    myRows = *fittingRows;
+    myCols = *fittingCols;
+    Clear();
+}
+
+void clsDatFile::LoadDat() {
+    StopWithoutFileName();
+    TextInput file(myFn);
+    if (TakeFaultOf(file)) {
+        return;
+    }
+    TakeSizeFrom(file);
+    for (std::int16_t row = 0; row < myRows; ++row) {
+        if (file.AtEnd()) {
+            Refuse(Fault::Kind::WrongSize, "is too short. Its first line announces " +
+                                               std::to_string(myRows) + " records, and " +
+                                               std::to_string(row) + " were found.");
+            myRows = row;
+            myData.resize(static_cast<std::size_t>(row));
+            return;
+        }
+        std::vector<std::string> words = NextRow(file);
+        if (WordCount(words) != static_cast<std::size_t>(myCols)) {
+            return; // The rows from here on stay empty, and myRows stays as announced.
+        }
+        StoreRow(row, std::move(words));
+    }
+}
+
+int clsDatFile::CountRows(TextInput &pFile) const {
+    int rows = 1; // The row that gave the number of columns.
+    while (!pFile.AtEnd() && rows <= mostRows) {
+        if (WordCount(NextRow(pFile)) != static_cast<std::size_t>(myCols)) {
+            break; // The table ends before this line.
+        }
+        ++rows;
+    }
+    return rows;
+}
+
+void clsDatFile::LoadCsv(bool pHasHeaders) {
+    StopWithoutFileName();
+    TextInput file(myFn);
+    if (TakeFaultOf(file)) {
+        return;
+    }
+    if (pHasHeaders) {
+        file.LineInput();
+    }
+    if (file.AtEnd()) {
+        EmptyTable(std::min(myHeaders.size(), modGetWords::mostWords));
+        return;
+    }
+    const std::size_t cols = WordCount(NextRow(file));
+    if (cols > modGetWords::mostWords) {
+        EmptyTable(0);
+        Refuse(Fault::Kind::NotRead,
+               "has too many columns. A table holds at most " + std::to_string(modGetWords::mostWords) + ".");
+        return;
+    }
+    Cols(static_cast<std::int16_t>(cols));
+    const int rows = CountRows(file);
+    if (rows > mostRows) {
+        EmptyTable(0);
+        Refuse(Fault::Kind::NotRead, "has too many records. A table holds at most " +
+                                         std::to_string(mostRows) + ", so none were read.");
+        return;
+    }
+    Rows(static_cast<std::int16_t>(rows));
+    file.SeekToStart();
+    if (pHasHeaders) {
+        file.LineInput();
+    }
+    Clear();
+    for (int row = 0; row < myRows; ++row) {
+        StoreRow(row, NextRow(file));
+    }
+}
