@@ -1,0 +1,79 @@
+#include "ui/clsCombo.h"
+
+#include "platform/ComboBox.h"
+#include "platform/Files.h"
+#include "platform/Text.h"
+
+namespace {
+
+/// The keys whose release completes: the space bar, digits, letters, the numeric keypad and punctuation, but
+/// not those that erase, move the caret or do something else.
+bool TypesText(int pKeyCode) {
+    constexpr int space = 32;
+    constexpr int digit0 = 48;
+    constexpr int keypadDivide = 111;
+    constexpr int firstPunctuation = 128;
+    return pKeyCode == space || (pKeyCode >= digit0 && pKeyCode <= keypadDivide) ||
+           pKeyCode >= firstPunctuation;
+}
+
+} // namespace
+
+clsCombo::~clsCombo() {
+    if (myCB != nullptr) {
+        myCB->KeyUp.Disconnect();
+        myCB->Validate.Disconnect();
+    }
+}
+
+void clsCombo::cb(ComboBox &pCB) {
+    myCB = &pCB;
+    myCB->KeyUp.Connect([this](int KeyCode, int Shift) { myCB_KeyUp(KeyCode, Shift); });
+    myCB->Validate.Connect([this](bool &Cancel) { myCB_Validate(Cancel); });
+}
+
+void clsCombo::Clear() {
+    myCB->Clear();
+}
+
+std::string clsCombo::LoadFromTxtFile(const std::string &pFn) {
+    if (Dir(pFn).empty()) {
+        return {};
+    }
+    TextInput file(pFn);
+    while (!file.AtEnd()) {
+        myCB->AddItem(std::string(file.LineInput()));
+    }
+    return file.Fault();
+}
+
+void clsCombo::myCB_KeyUp(int KeyCode, int /*Shift*/) {
+    // Of two keys typed fast, the first release finds both characters there. Completing again at the second
+    // would take the completed part for typed.
+    if (myMode == 2 && TypesText(KeyCode) && myCB->WasTypedIn()) {
+        AutoComplete(*myCB);
+    }
+}
+
+void clsCombo::AutoComplete(ComboBox &pCombo) {
+    const int typed = Utf16Length(pCombo.Text());
+    if (typed == 0) {
+        return;
+    }
+    // With no entry found the text stays as typed, the caret at its end and nothing selected.
+    pCombo.ListIndex(pCombo.FindString(pCombo.Text()));
+    pCombo.SelStart(typed);
+    pCombo.SelLength(Utf16Length(pCombo.Text()) - typed);
+}
+
+void clsCombo::myCB_Validate(bool &Cancel) const {
+    if (myMode <= 0 || myCB->ListCount() == 0) {
+        return;
+    }
+    for (int i = 0; i < myCB->ListCount(); ++i) {
+        if (EqualIgnoringCase(myCB->List(i), myCB->Text())) {
+            return;
+        }
+    }
+    Cancel = true;
+}

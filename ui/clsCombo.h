@@ -1,0 +1,38 @@
+#pragma once
+/// Makes a combo box a field for data entry: fills its list from a text file, refuses to let the focus leave
+/// a text that isn't listed, and completes what is typed. It serves the box as long as it lives; the form
+/// owns the box.
+#include <cstdint>
+#include <string>
+
+class ComboBox;
+
+class clsCombo {
+public:
+    clsCombo() = default;
+    ~clsCombo();
+    clsCombo(const clsCombo &) = delete;
+    clsCombo &operator=(const clsCombo &) = delete;
+
+    /// Connects this to pCB's events.
+    void cb(ComboBox &pCB);
+
+    /// 0 or below: any text; 1: the text has to be an entry of the list, unless the list is empty; 2: that,
+    /// and completion; 3 and above: as 1.
+    void Mode(std::int16_t pMode) { myMode = pMode; }
+
+    /// Empties the list.
+    void Clear();
+
+    /// Adds each line of the file pFn, unchanged, to the end of the list; nothing when Dir doesn't find it.
+    /// The system's reason when the file is there and can't be read, else empty.
+    [[nodiscard]] std::string LoadFromTxtFile(const std::string &pFn);
+
+private:
+    void myCB_KeyUp(int KeyCode, int Shift);
+    void myCB_Validate(bool &Cancel) const;
+    static void AutoComplete(ComboBox &pCombo);
+
+    ComboBox *myCB = nullptr;
+    std::int16_t myMode = 0;
+};

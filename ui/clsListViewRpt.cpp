@@ -1,0 +1,152 @@
+#include "ui/clsListViewRpt.h"
+
+#include "platform/ListView.h"
+#include "platform/Numbers.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+constexpr double lastColumnGapTwips = 10;
+
+/// A count of the control, which counts further than this class does.
+std::int16_t Count16(int pCount) {
+    return static_cast<std::int16_t>(std::min(pCount, 32767));
+}
+
+} // namespace
+
+void clsListViewRpt::LV(ListView &pLV) {
+    myLV = &pLV;
+    myLV->View(ListView::ViewStyle::Report);
+}
+
+void clsListViewRpt::Headers(const std::vector<std::string> &pHeaders) {
+    if (pHeaders.empty()) {
+        return;
+    }
+    const std::int16_t share = Integer16(100.0 / static_cast<double>(pHeaders.size())).value_or(0);
+    myWidths.assign(pHeaders.size(), share);
+    for (const std::string &title : pHeaders) {
+        myLV->ColumnHeaders.Add(title);
+    }
+}
+
+std::vector<std::string> clsListViewRpt::Headers() const {
+    std::vector<std::string> titles;
+    for (int index = 1; index <= myLV->ColumnHeaders.Count(); ++index) {
+        titles.push_back(myLV->ColumnHeaders(index).Text);
+    }
+    return titles;
+}
+
+void clsListViewRpt::ColumnWidth(std::int16_t x, std::int16_t pWidth) {
+    if (x >= 0 && std::cmp_less(x, myWidths.size())) {
+        myWidths[static_cast<std::size_t>(x)] = pWidth;
+    }
+}
+
+std::int16_t clsListViewRpt::Rows() const {
+    return Count16(myLV->ListItems.Count());
+}
+
+std::int16_t clsListViewRpt::Cols() const {
+    return Count16(myLV->ColumnHeaders.Count());
+}
+
+std::int16_t clsListViewRpt::SelectedRow() const {
+    const ListItem *item = myLV->SelectedItem();
+    return item == nullptr ? std::int16_t{-1} : Count16(item->Index() - 1);
+}
+
+void clsListViewRpt::SelectedRow(std::int16_t pRow) {
+    const int row = std::min<int>(pRow, myLV->ListItems.Count() - 1);
+    myLV->SelectedItem(row < 0 ? nullptr : &myLV->ListItems(row + 1));
+}
+
+ListItem *clsListViewRpt::Item(std::int16_t pRow) const {
+    return pRow >= 0 && pRow < myLV->ListItems.Count() ? &myLV->ListItems(pRow + 1) : nullptr;
+}
+
+std::string clsListViewRpt::Data(std::int16_t pRow, std::int16_t pCol) const {
+    const ListItem *item = Item(pRow);
+    if (item == nullptr) {
+        return {};
+    }
+    return pCol == 0 ? item->Text() : item->SubItems(pCol);
+}
+
+void clsListViewRpt::Data(std::int16_t pRow, std::int16_t pCol, const std::string &pText) {
+    ListItem *item = Item(pRow);
+    if (item == nullptr) {
+        return;
+    }
+    if (pCol == 0) {
+        item->Text(pText);
+    } else if (pCol <= item->SubItemCount()) {
+        item->SubItems(pCol, pText);
+    }
+}
+
+/// Inserts a copy of the selected item at place pIndex.
+void clsListViewRpt::CopySelectedTo(int pIndex) {
+    const ListItem &selected = *myLV->SelectedItem();
+    ListItem &copy = myLV->ListItems.Add(pIndex, selected.Text());
+    for (int i = 1; i <= selected.SubItemCount(); ++i) {
+        copy.SubItems(i, selected.SubItems(i));
+    }
+}
+
+void clsListViewRpt::MoveUp() {
+    const ListItem *selected = myLV->SelectedItem();
+    if (selected == nullptr || selected->Index() <= 1) {
+        return;
+    }
+    const int target = selected->Index() - 1;
+    CopySelectedTo(target);
+    myLV->ListItems.Remove(selected->Index());
+    myLV->ListItems(target).Select();
+}
+
+void clsListViewRpt::MoveDown() {
+    const ListItem *selected = myLV->SelectedItem();
+    if (selected == nullptr || selected->Index() >= myLV->ListItems.Count()) {
+        return;
+    }
+    // Behind the next row, which moves up when this one goes.
+    CopySelectedTo(selected->Index() + 2);
+    myLV->ListItems.Remove(selected->Index());
+    // The row that moved up has become the selected one; the copy stands right behind it.
+    myLV->ListItems(myLV->SelectedItem()->Index() + 1).Select();
+}
+
+void clsListViewRpt::Clear() {
+    myLV->ListItems.Clear();
+}
+
+void clsListViewRpt::AddRow() {
+    ListItem &item = myLV->ListItems.Add("");
+    for (int i = 1; i < Cols(); ++i) {
+        item.SubItems(i, "");
+    }
+}
+
+void clsListViewRpt::Del() {
+    const ListItem *selected = myLV->SelectedItem();
+    if (selected != nullptr) {
+        myLV->ListItems.Remove(selected->Index());
+    }
+}
+
+void clsListViewRpt::Resize() {
+    const int cols = std::min<int>(Cols(), static_cast<int>(myWidths.size()));
+    double w = 0;
+    for (int i = 0; i < cols; ++i) {
+        w = myLV->Width() * (myWidths[static_cast<std::size_t>(i)] / 100.0);
+        myLV->ColumnHeaders.Width(i + 1, static_cast<float>(w));
+    }
+    if (cols > 0) {
+        myLV->ColumnHeaders.Width(cols, static_cast<float>(w - lastColumnGapTwips));
+    }
+}

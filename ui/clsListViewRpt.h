@@ -1,0 +1,58 @@
+#pragma once
+/// A list control in report view as a grid of text: rows and columns from 0, one selected row, rows moved up
+/// and down, columns whose widths are shares of the control's. The control is the store; a condition that a
+/// caller breaks (a cell that isn't there) reads as empty or does nothing.
+#include <cstdint>
+#include <string>
+#include <vector>
+
+class ListItem;
+class ListView;
+
+class clsListViewRpt {
+public:
+    /// Keeps the control and puts it in report view.
+    void LV(ListView &pLV);
+    ListView &LV() const { return *myLV; }
+
+    /// Appends a column for each title and gives all columns the same share, 100 / titles, of the width.
+    void Headers(const std::vector<std::string> &pHeaders);
+    std::vector<std::string> Headers() const;
+
+    /// Replaces all shares, in percent.
+    void ColumnWidths(const std::vector<std::int16_t> &pWidths) { myWidths = pWidths; }
+    /// Share of column x (from 0), in percent.
+    void ColumnWidth(std::int16_t x, std::int16_t pWidth);
+
+    std::int16_t Rows() const;
+    std::int16_t Cols() const;
+
+    /// The selected row; -1 when none is.
+    std::int16_t SelectedRow() const;
+    /// Selects row pRow; -1 clears the selection, a row past the end selects the last row.
+    void SelectedRow(std::int16_t pRow);
+
+    std::string Data(std::int16_t pRow, std::int16_t pCol) const;
+    void Data(std::int16_t pRow, std::int16_t pCol, const std::string &pText);
+
+    /// Moves the selected row one place; it stays selected. No effect at the list's end.
+    void MoveUp();
+    void MoveDown();
+
+    /// Removes all rows. Columns and shares stay.
+    void Clear();
+    /// Appends a row of empty texts.
+    void AddRow();
+    /// Removes the selected row, if there is one.
+    void Del();
+
+    /// Gives every column its share of the control's present width, the last one 10 twips less.
+    void Resize();
+
+private:
+    ListItem *Item(std::int16_t pRow) const;
+    void CopySelectedTo(int pIndex);
+
+    ListView *myLV = nullptr;
+    std::vector<std::int16_t> myWidths;
+};
