@@ -1,0 +1,25 @@
+#pragma once
+/// The About box: the version record, and a link to the maker's page. It doesn't depend on the main window.
+#include "platform/Controls.h"
+#include "platform/Form.h"
+
+class frmAbout {
+public:
+    explicit frmAbout(Runtime &pRuntime);
+
+    /// Loads the box, unless it is open, and brings it on screen.
+    void Show() { myForm.Show(); }
+
+private:
+    void Form_Load();
+    void lblCopyright_Click();
+    void cmdOK_Click();
+
+    Runtime &myRuntime;
+    Form &myForm;
+    CommandButton &cmdOK;
+    Label &lblComments;
+    Label &lblCopyright;
+    Label &lblTitle;
+    Label &lblVersion;
+};
