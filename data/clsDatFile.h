@@ -84,7 +84,9 @@ private:
     /// The words of the next line; how the readers see every row.
     static std::vector<std::string> NextRow(TextInput &pFile);
     void StoreRow(int pRow, std::vector<std::string> pWords);
-    int CountRows(TextInput &pFile) const;
+    /// pFirst and the rows of the lines that follow, up to the first ragged one or to one row more than a
+    /// table can hold.
+    static std::vector<std::vector<std::string>> RowsFrom(std::vector<std::string> pFirst, TextInput &pFile);
     void EmptyTable(std::size_t pCols);
     void Refuse(Fault::Kind pKind, const std::string &pText);
 

@@ -8,10 +8,14 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace {
 
 using modGetWords::GetWords;
+
+/// A number of rows from here on says nothing to a reader. It may have hundreds of digits, or be an infinity.
+constexpr double mostShownRows = 1e9;
 
 /// One of the two numbers on the first line. Text that isn't numeric counts as 0; nothing when it is missing.
 std::optional<double> SizeItem(TextInput &pFile) {
@@ -46,9 +50,9 @@ void clsDatFile::TakeSizeFrom(TextInput &pFile) {
     const std::optional<std::int16_t> fittingRows = Integer16(*rows);
     if (!fittingRows && *rows > mostRows) {
         EmptyTable(static_cast<std::size_t>(*fittingCols));
-        Refuse(Fault::Kind::WrongSize, "announces " + FormatWhole(*rows) +
-                                           " records. A table holds at most " + std::to_string(mostRows) +
-                                           ", so none were read.");
+        const std::string announced = *rows < mostShownRows ? FormatWhole(*rows) : "far too many";
+        Refuse(Fault::Kind::WrongSize, "announces " + announced + " records. A table holds at most " +
+                                           std::to_string(mostRows) + ", so none were read.");
         return;
     }
     if (!fittingRows || *fittingRows < 0) {
@@ -70,8 +74,8 @@ void clsDatFile::LoadDat() {
     for (std::int16_t row = 0; row < myRows; ++row) {
         if (file.AtEnd()) {
             Refuse(Fault::Kind::WrongSize, "is too short. Its first line announces " +
-                                               std::to_string(myRows) + " records, and " +
-                                               std::to_string(row) + " were found.");
+                                               std::to_string(myRows) + " records, but it holds only " +
+                                               std::to_string(row) + ".");
             myRows = row;
             myData.resize(static_cast<std::size_t>(row));
             return;
@@ -84,13 +88,16 @@ void clsDatFile::LoadDat() {
     }
 }
 
-int clsDatFile::CountRows(TextInput &pFile) const {
-    int rows = 1; // The row that gave the number of columns.
-    while (!pFile.AtEnd() && rows <= mostRows) {
-        if (WordCount(NextRow(pFile)) != static_cast<std::size_t>(myCols)) {
+std::vector<std::vector<std::string>> clsDatFile::RowsFrom(std::vector<std::string> pFirst,
+                                                           TextInput &pFile) {
+    std::vector<std::vector<std::string>> rows;
+    rows.push_back(std::move(pFirst));
+    while (!pFile.AtEnd() && std::cmp_less_equal(rows.size(), mostRows)) {
+        std::vector<std::string> words = NextRow(pFile);
+        if (words.size() != rows.front().size()) {
             break; // The table ends before this line.
         }
-        ++rows;
+        rows.push_back(std::move(words));
     }
     return rows;
 }
@@ -108,7 +115,8 @@ void clsDatFile::LoadCsv(bool pHasHeaders) {
         EmptyTable(std::min(myHeaders.size(), modGetWords::mostWords));
         return;
     }
-    const std::size_t cols = WordCount(NextRow(file));
+    std::vector<std::string> first = NextRow(file);
+    const std::size_t cols = WordCount(first);
     if (cols > modGetWords::mostWords) {
         EmptyTable(0);
         Refuse(Fault::Kind::NotRead,
@@ -116,20 +124,16 @@ void clsDatFile::LoadCsv(bool pHasHeaders) {
         return;
     }
     Cols(static_cast<std::int16_t>(cols));
-    const int rows = CountRows(file);
-    if (rows > mostRows) {
+    std::vector<std::vector<std::string>> rows = RowsFrom(std::move(first), file);
+    if (std::cmp_greater(rows.size(), mostRows)) {
         EmptyTable(0);
         Refuse(Fault::Kind::NotRead, "has too many records. A table holds at most " +
                                          std::to_string(mostRows) + ", so none were read.");
         return;
     }
-    Rows(static_cast<std::int16_t>(rows));
-    file.SeekToStart();
-    if (pHasHeaders) {
-        file.LineInput();
-    }
+    Rows(static_cast<std::int16_t>(rows.size()));
     Clear();
     for (int row = 0; row < myRows; ++row) {
-        StoreRow(row, NextRow(file));
+        StoreRow(row, std::move(rows[static_cast<std::size_t>(row)]));
     }
 }

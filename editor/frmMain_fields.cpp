@@ -44,7 +44,7 @@ std::string RowFault(const clsDatFile &pSpec, std::int16_t pRow, std::int16_t pS
         isFilled = isFilled || !pSpec.Data(pRow, col).empty();
     }
     if (!isFilled) {
-        return "has no values: this line, or one before it, doesn't have 4 fields.";
+        return "is empty: its fields are, or its line or one before it doesn't have 4 fields.";
     }
     const std::string width = pSpec.Data(pRow, widthCol);
     if (!WholeTextInteger(width)) {

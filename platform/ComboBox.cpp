@@ -7,6 +7,8 @@
 namespace {
 
 constexpr int keyBack = 8;
+constexpr int keyShift = 16;
+constexpr int keyAlt = 18;
 constexpr int keyDelete = 46;
 
 } // namespace
@@ -73,7 +75,8 @@ void ComboBox::UserEdits(const std::string &pText, int pSelStart) {
         return;
     }
     Text(WithoutNewLineBreaks(myText, pText));
-    SelStart(pSelStart);
+    // Counted from the end, since a CR LF in front of the caret has become one character.
+    SelStart(pSelStart + Utf16Length(myText) - Utf16Length(pText));
     myWasTypedIn = myLastKeyDown != keyBack && myLastKeyDown != keyDelete;
 }
 
@@ -84,6 +87,15 @@ void ComboBox::UserSelects(int pSelStart, int pSelLength) {
 
 void ComboBox::UserReleasesKey(int pKeyCode, int pShift) {
     KeyUp.Raise(pKeyCode, pShift);
+    // Shift is often let go before the letter that it was held for, whose release is the one to answer.
+    if (pKeyCode < keyShift || pKeyCode > keyAlt) {
+        myWasTypedIn = false;
+    }
+}
+
+void ComboBox::UserPicks(int pIndex) {
+    ListIndex(pIndex);
+    // A picked text is no typed one: the release of the next key, Ctrl+A say, has nothing to complete.
     myWasTypedIn = false;
 }
 

@@ -50,7 +50,7 @@ public:
 
     /// Whether the user has changed the text since the last release of a key, other than by erasing. While
     /// keys are typed fast, one is pressed before another is released, and only this tells whether a release
-    /// has anything to answer.
+    /// has anything to answer. The release of Shift, Ctrl or Alt leaves it as it is.
     bool WasTypedIn() const { return myWasTypedIn; }
 
     /// The acts of the user. Key codes are the runtime's virtual-key codes; pShift is their bit field.
@@ -58,7 +58,7 @@ public:
     void UserEdits(const std::string &pText, int pSelStart);
     void UserSelects(int pSelStart, int pSelLength);
     void UserReleasesKey(int pKeyCode, int pShift);
-    void UserPicks(int pIndex) { ListIndex(pIndex); }
+    void UserPicks(int pIndex);
 
     /// Asks the client whether the focus may leave the box.
     bool MayLoseFocus() const;

@@ -6,6 +6,7 @@
 #include <csignal>
 #include <cstring>
 #include <cwctype>
+#include <new>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -52,6 +53,33 @@ public:
 private:
     int myNumber;
 };
+
+/// All bytes of an open file that has pSize of them, or had when it was asked. Throws std::bad_alloc for a
+/// file that memory can't hold.
+os::ReadResult ReadAll(int pNumber, std::size_t pSize) {
+    os::ReadResult result;
+    // One byte more than the file has, so that the read that finds its end needs no further room.
+    result.bytes.resize(pSize + 1);
+    std::size_t filled = 0;
+    for (;;) {
+        if (filled == result.bytes.size()) {
+            result.bytes.resize(result.bytes.size() * 2); // It grew while it was read.
+        }
+        const ssize_t count = read(pNumber, result.bytes.data() + filled, result.bytes.size() - filled);
+        if (count < 0 && errno == EINTR) {
+            continue;
+        }
+        if (count < 0) {
+            return {{}, Reason(errno)};
+        }
+        if (count == 0) {
+            break;
+        }
+        filled += static_cast<std::size_t>(count);
+    }
+    result.bytes.resize(filled);
+    return result;
+}
 
 /// Writes all of pBytes; false with errno set when the system takes no more.
 bool WriteAll(int pNumber, std::string_view pBytes) {
@@ -113,28 +141,11 @@ ReadResult ReadFile(const std::string &pPath) {
     if (!S_ISREG(status.st_mode)) {
         return {{}, "Not a regular file"};
     }
-    ReadResult result;
-    // One byte more than the file has, so that the read that finds its end needs no further room.
-    result.bytes.resize(static_cast<std::size_t>(status.st_size) + 1);
-    std::size_t filled = 0;
-    for (;;) {
-        if (filled == result.bytes.size()) {
-            result.bytes.resize(result.bytes.size() * 2); // It grew while it was read.
-        }
-        const ssize_t count = read(file.Number(), result.bytes.data() + filled, result.bytes.size() - filled);
-        if (count < 0 && errno == EINTR) {
-            continue;
-        }
-        if (count < 0) {
-            return {{}, Reason(errno)};
-        }
-        if (count == 0) {
-            break;
-        }
-        filled += static_cast<std::size_t>(count);
+    try {
+        return ReadAll(file.Number(), static_cast<std::size_t>(status.st_size));
+    } catch (const std::bad_alloc &) {
+        return {{}, Reason(ENOMEM)};
     }
-    result.bytes.resize(filled);
-    return result;
 }
 
 WriteResult WriteFile(const std::string &pPath, std::string_view pBytes) {
