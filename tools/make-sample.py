@@ -16,11 +16,11 @@ from pathlib import Path
 COLUMNS = [
     # heading, percent of the list's width, mode, list file. The percents leave room for the list's
     # vertical scroll bar.
-    ("Zone", "30", "0", "-"),
+    ("Zone", "28", "0", "-"),
     ("Area", "13", "1", "areas.txt"),
     ("Country", "22", "2", "countries.txt"),
-    ("Position", "15", "0", "-"),
-    ("Remarks", "17", "0", "-"),
+    ("Position", "19", "0", "-"),
+    ("Remarks", "15", "0", "-"),
 ]
 
 
