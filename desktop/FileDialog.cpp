@@ -1,0 +1,94 @@
+#include "desktop/FileDialog.h"
+
+#include "desktop/TextCodec.h"
+
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QFileInfo>
+#include <QPushButton>
+#include <QTreeView>
+
+namespace {
+
+/// The columns of Qt's list of files.
+constexpr int nameColumn = 0;
+constexpr int sizeColumn = 1;
+constexpr int typeColumn = 2;
+
+/// The filter in Qt's form, a description with the pattern in parentheses.
+QString NameFilter(const FileDialogRequest &pRequest) {
+    const QString description = ToQt(pRequest.description);
+    const QString pattern = QStringLiteral("(%1)").arg(ToQt(pRequest.pattern));
+    return description.endsWith(pattern) ? description : description + u' ' + pattern;
+}
+
+} // namespace
+
+FileDialog::FileDialog(QWidget *pParent, const FileDialogRequest &pRequest) : QFileDialog(pParent) {
+    setOptions(DontUseNativeDialog | DontConfirmOverwrite);
+    setAcceptMode(pRequest.isSave ? AcceptSave : AcceptOpen);
+    setFileMode(AnyFile);
+    setWindowTitle(pRequest.isSave ? QStringLiteral("Save As") : QStringLiteral("Open"));
+    if (!pRequest.pattern.empty()) {
+        setNameFilter(NameFilter(pRequest));
+    }
+    setDirectory(pRequest.folder.empty() ? QDir::currentPath() : ToQt(pRequest.folder));
+
+    FitColumns();
+
+    myNameEdit = findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+    auto *buttons = findChild<QDialogButtonBox *>(QStringLiteral("buttonBox"));
+    QPushButton *acceptButton =
+        buttons == nullptr
+            ? nullptr
+            : buttons->button(pRequest.isSave ? QDialogButtonBox::Save : QDialogButtonBox::Open);
+    if (myNameEdit == nullptr || acceptButton == nullptr) {
+        return;
+    }
+    // Qt takes a name with a quote for a list of names and may find none in it.
+    connect(myNameEdit, &QLineEdit::textChanged, this, [acceptButton](const QString &pName) {
+        acceptButton->setEnabled(acceptButton->isEnabled() || pName.contains(u'"'));
+    });
+    myNameEdit->setText(ToQt(pRequest.name));
+    myNameEdit->selectAll();
+    myNameEdit->setFocus();
+}
+
+void FileDialog::FitColumns() {
+    constexpr QSize roomySize(720, 460);
+    resize(roomySize.expandedTo(sizeHint()));
+    auto *files = findChild<QTreeView *>(QStringLiteral("treeView"));
+    if (files != nullptr) {
+        // Qt measures these with the settings that it would have saved, and cuts them without.
+        const QFontMetrics metrics = files->fontMetrics();
+        files->setColumnWidth(nameColumn, metrics.averageCharWidth() * 36);
+        files->setColumnWidth(sizeColumn, metrics.averageCharWidth() * 13);
+        files->setColumnWidth(typeColumn, metrics.averageCharWidth() * 16);
+    }
+}
+
+void FileDialog::accept() {
+    const QString name = myNameEdit == nullptr ? QString() : myNameEdit->text();
+    if (!name.contains(u'"')) {
+        QFileDialog::accept();
+        return;
+    }
+    const QString path = QDir::isAbsolutePath(name) ? name : directory().filePath(name);
+    if (QFileInfo(path).isDir()) {
+        setDirectory(path);
+        myNameEdit->clear();
+        return;
+    }
+    myChosen = path;
+    QDialog::accept();
+}
+
+std::optional<std::string> FileDialog::Ask() {
+    // Dismissed, the dialog still has its preset name selected.
+    if (exec() != QDialog::Accepted) {
+        return std::nullopt;
+    }
+    const QStringList files = selectedFiles();
+    const QString chosen = !myChosen.isEmpty() || files.isEmpty() ? myChosen : files.first();
+    return FromQt(chosen);
+}

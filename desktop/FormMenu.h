@@ -1,0 +1,33 @@
+#pragma once
+/// The menu bar of a window, made from the menu items of its form.
+#include "desktop/Acts.h"
+#include "platform/Controls.h"
+
+#include <QAction>
+#include <QMenuBar>
+
+#include <vector>
+
+class Form;
+
+class FormMenu {
+public:
+    FormMenu(Acts &pActs, const Form &pForm, QMenuBar &pBar);
+
+    /// Brings the entries up to date with their items.
+    void Sync() const;
+
+    bool IsEmpty() const { return myEntries.empty(); }
+
+private:
+    struct Entry {
+        const MenuItem *item;
+        QAction *action;
+    };
+
+    void AddEntry(Acts &pActs, const MenuItem &pItem, QWidget &pParent);
+    QMenu *MenuOf(const MenuItem &pItem);
+
+    QMenuBar &myBar;
+    std::vector<Entry> myEntries;
+};

@@ -1,0 +1,260 @@
+#include "desktop/FormWindow.h"
+
+#include "desktop/Look.h"
+#include "desktop/TaskBar.h"
+#include "desktop/TextCodec.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QWindow>
+
+#include <algorithm>
+
+namespace {
+
+constexpr float twipsPerPixel = 15;
+/// So long after the last change of size the window system is taken to have had its say.
+constexpr int settlingTime = 250;
+
+/// pPixels in twips; pNow itself where it is shown as pPixels, so that rounding looks like no change.
+float TwipsOf(int pPixels, float pNow) {
+    return Pixels(pNow) == pPixels ? pNow : static_cast<float>(pPixels) * twipsPerPixel;
+}
+
+} // namespace
+
+FormWindow::FormWindow(Acts &pActs, Form &pForm)
+    : myActs(pActs), myForm(pForm), myClient(new QWidget(this)), myGuard(*this) {
+    mySettling.setSingleShot(true);
+    mySettling.setInterval(settlingTime);
+    connect(&mySettling, &QTimer::timeout, this, [this] { Settled(); });
+
+    auto bar = std::make_unique<QMenuBar>(this);
+    bar->setNativeMenuBar(false);
+    myMenu = std::make_unique<FormMenu>(pActs, pForm, *bar);
+    if (!myMenu->IsEmpty()) {
+        myBar = bar.release();
+    }
+    myClient->setFont(FormFont());
+    SetFrame();
+    AddViews();
+    SetTabOrder();
+    winId();
+    windowHandle()->installEventFilter(&myGuard);
+    if (myForm.Border() == Form::BorderStyle::FixedDialog) {
+        KeepOffTaskBar(*this);
+    }
+    Sync();
+    Arrange();
+    myIsReady = true;
+}
+
+FormWindow::~FormWindow() {
+    myIsReady = false;
+    myViews.clear();
+}
+
+void FormWindow::SetFrame() {
+    if (myForm.Border() == Form::BorderStyle::FixedDialog) {
+        setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                       Qt::WindowCloseButtonHint);
+        setPalette(LightPalette());
+    }
+}
+
+void FormWindow::AddViews() {
+    for (const auto &control : myForm.Controls()) {
+        auto view = MakeView(myActs, *control, *myClient);
+        if (view != nullptr) {
+            view->Sync();
+            myViews.push_back(std::move(view));
+        }
+    }
+}
+
+void FormWindow::SetTabOrder() const {
+    std::vector<ControlView *> order;
+    for (const auto &view : myViews) {
+        if (view->TakesFocus()) {
+            order.push_back(view.get());
+        }
+    }
+    const auto isBefore = [](const ControlView *pOne, const ControlView *pOther) {
+        return pOne->Control().TabIndex() < pOther->Control().TabIndex();
+    };
+    std::stable_sort(order.begin(), order.end(), isBefore);
+    for (std::size_t at = 1; at < order.size(); ++at) {
+        setTabOrder(&order[at - 1]->Widget(), &order[at]->Widget());
+    }
+    if (!order.empty()) {
+        order.front()->Widget().setFocus();
+    }
+}
+
+void FormWindow::Sync() {
+    myMenu->Sync();
+    for (const auto &view : myViews) {
+        view->Sync();
+    }
+    if (myShownRevision != myForm.Revision()) {
+        myShownRevision = myForm.Revision();
+        ShowCaptionAndState();
+        FollowForm();
+    }
+}
+
+void FormWindow::Retire() {
+    myIsReady = false;
+    hide();
+    deleteLater();
+}
+
+void FormWindow::ShowCaptionAndState() {
+    setWindowTitle(ToQtTitle(myForm.Caption()));
+    if (myForm.WindowState() != State()) {
+        const Qt::WindowStates kept =
+            windowState() & ~(Qt::WindowMinimized | Qt::WindowMaximized | Qt::WindowFullScreen);
+        const bool isMinimized = myForm.WindowState() == Form::stateMinimized;
+        const bool isMaximized = myForm.WindowState() == Form::stateMaximized;
+        setWindowState(kept | (isMinimized   ? Qt::WindowMinimized
+                               : isMaximized ? Qt::WindowMaximized
+                                             : Qt::WindowNoState));
+    }
+}
+
+int FormWindow::State() const {
+    if (isMinimized()) {
+        return Form::stateMinimized;
+    }
+    return isMaximized() || isFullScreen() ? Form::stateMaximized : Form::stateNormal;
+}
+
+QSize FormWindow::WantedClient() const {
+    return {std::max(Pixels(myForm.ClientWidth()), 1), std::max(Pixels(myForm.ClientHeight()), 1)};
+}
+
+int FormWindow::MenuHeight(int pWidth) const {
+    return myBar == nullptr ? 0 : std::max(myBar->heightForWidth(pWidth), 0);
+}
+
+void FormWindow::Arrange() {
+    const int menuHeight = MenuHeight(width());
+    if (myBar != nullptr) {
+        myBar->setGeometry(0, 0, width(), menuHeight);
+    }
+    myClient->setGeometry(0, menuHeight, width(), std::max(height() - menuHeight, 0));
+}
+
+void FormWindow::ResizeToForm() {
+    const QSize client = WantedClient();
+    const QSize size(client.width(), client.height() + MenuHeight(client.width()));
+    if (myForm.Border() == Form::BorderStyle::FixedDialog) {
+        setFixedSize(size);
+    } else {
+        resize(size);
+    }
+}
+
+void FormWindow::FollowForm() {
+    const QSize given = myClient->size();
+    if (State() != Form::stateNormal || given == WantedClient()) {
+        return;
+    }
+    // A window system that insists on a size gives it again at once; answering each time would never end.
+    if (!myIsReady || given != myCorrected) {
+        myCorrected = myIsReady ? given : QSize();
+        ResizeToForm();
+    }
+}
+
+void FormWindow::Settled() {
+    // At the end of a drag the window system may give the last size once more, after it was corrected.
+    const bool isOff = State() == Form::stateNormal && myClient->size() != WantedClient();
+    if (isOff && !myHasAskedAgain) {
+        myHasAskedAgain = true;
+        mySettling.start();
+        ResizeToForm();
+        return;
+    }
+    myHasAskedAgain = false;
+    myCorrected = QSize();
+}
+
+void FormWindow::ReportSize() {
+    if (!myIsReady) {
+        return;
+    }
+    mySettling.start();
+    const QSize client = myClient->size();
+    myActs.Note([&] {
+        myForm.UserSizes(TwipsOf(client.width(), myForm.ClientWidth()),
+                         TwipsOf(client.height(), myForm.ClientHeight()), State());
+    });
+}
+
+void FormWindow::resizeEvent(QResizeEvent * /*pEvent*/) {
+    Arrange();
+    ReportSize();
+}
+
+void FormWindow::changeEvent(QEvent *pEvent) {
+    QWidget::changeEvent(pEvent);
+    if (pEvent->type() == QEvent::WindowStateChange) {
+        ReportSize();
+    }
+}
+
+bool FormWindow::event(QEvent *pEvent) {
+    const bool isTaken = QWidget::event(pEvent);
+    // The menu bar asks for another height, as with another font of the system.
+    if (pEvent->type() == QEvent::LayoutRequest && myIsReady && myBar != nullptr &&
+        myBar->height() != MenuHeight(width())) {
+        if (State() == Form::stateNormal) {
+            ResizeToForm();
+        }
+        Arrange();
+        ReportSize();
+    }
+    return isTaken;
+}
+
+void FormWindow::closeEvent(QCloseEvent *pEvent) {
+    if (myIsReady) {
+        myActs.Handle([this] { myForm.UserCloses(); });
+    }
+    pEvent->setAccepted(!myIsReady); // Gone, unless a waiting box is in the way.
+}
+
+void FormWindow::keyPressEvent(QKeyEvent *pEvent) {
+    if (!myIsReady || pEvent->isAutoRepeat()) {
+        return;
+    }
+    if (pEvent->key() == Qt::Key_Escape) {
+        myActs.Handle([this] { myForm.UserPressesEscape(); });
+    } else if (pEvent->key() == Qt::Key_Return || pEvent->key() == Qt::Key_Enter) {
+        myActs.Handle([this] { myForm.UserPressesEnter(); });
+    } else {
+        QWidget::keyPressEvent(pEvent);
+    }
+}
+
+bool FormWindow::MayFocusMoveTo(const QWidget *pTarget) const {
+    const QWidget *focused = focusWidget();
+    const auto hasFocus = [&](const auto &pView) { return &pView->Widget() == focused; };
+    const auto view = std::find_if(myViews.begin(), myViews.end(), hasFocus);
+    return view == myViews.end() || pTarget == focused || (*view)->MayLoseFocus();
+}
+
+bool FormWindow::focusNextPrevChild(bool pNext) {
+    // A refused Tab counts as done: the field must not get it as a character.
+    return !MayFocusMoveTo(nullptr) || QWidget::focusNextPrevChild(pNext);
+}
+
+void FormWindow::FocusFallback() const {
+    const auto takesIt = [](const auto &pView) { return pView->TakesFocusOfDisabled(); };
+    const auto view = std::find_if(myViews.begin(), myViews.end(), takesIt);
+    if (view != myViews.end()) {
+        (*view)->Widget().setFocus(Qt::OtherFocusReason);
+    }
+}

@@ -1,0 +1,148 @@
+#include "desktop/QtDesktop.h"
+
+#include "desktop/FileDialog.h"
+#include "desktop/TextCodec.h"
+#include "platform/Runtime.h"
+#include "platform/System.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QScopedValueRollback>
+#include <QSettings>
+#include <QUrl>
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace {
+
+constexpr int resultOk = 1;
+constexpr int resultCancel = 2;
+constexpr int okAndCancel = 1;
+constexpr int criticalStop = 16;
+
+/// Whether pTarget is a web address or the like. One letter before the colon is a drive.
+bool IsAddress(const std::string &pTarget) {
+    const QString scheme = QUrl(ToQt(pTarget)).scheme();
+    return scheme.size() > 1;
+}
+
+} // namespace
+
+QtDesktop::QtDesktop() {
+    // Qt's file dialog leaves a file of its own when it closes. The program keeps no state, so Qt is given a
+    // place where nothing can be written.
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("/dev/null"));
+}
+
+QtDesktop::~QtDesktop() {
+    for (const auto &[form, window] : myWindows) {
+        delete window;
+    }
+}
+
+FormWindow *QtDesktop::WindowOf(const Form &pForm) const {
+    const auto found = myWindows.find(&pForm);
+    return found == myWindows.end() ? nullptr : found->second.data();
+}
+
+void QtDesktop::Sync() {
+    for (const auto &[form, window] : myWindows) {
+        window->Sync();
+    }
+}
+
+void QtDesktop::Handle(const std::function<void()> &pAct) {
+    if (myDepth == 0) {
+        Note(pAct);
+    }
+}
+
+void QtDesktop::Note(const std::function<void()> &pAct) {
+    {
+        const QScopedValueRollback depth(myDepth, myDepth + 1);
+        pAct();
+        Sync();
+    }
+    // Only at the end of the outermost: what follows an unload in the same handler still has to run.
+    if (myDepth == 0 && myRuntime != nullptr) {
+        myRuntime->EndIfNoFormIsLoaded();
+    }
+}
+
+QWidget *QtDesktop::ActiveWindow() const {
+    QWidget *active = QApplication::activeWindow();
+    if (active != nullptr && active->isVisible()) {
+        return active;
+    }
+    for (const auto &[form, window] : myWindows) {
+        if (window->isVisible()) {
+            return window;
+        }
+    }
+    return nullptr;
+}
+
+int QtDesktop::ShowMessage(const Message &pMessage) {
+    Sync();
+    QMessageBox box(ActiveWindow());
+    box.setIcon(pMessage.buttons == criticalStop ? QMessageBox::Critical : QMessageBox::NoIcon);
+    box.setWindowTitle(ToQtTitle(pMessage.title));
+    box.setTextFormat(Qt::PlainText);
+    box.setText(ToQt(pMessage.prompt).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
+    QPushButton *ok = box.addButton(QMessageBox::Ok);
+    box.setDefaultButton(ok);
+    box.setEscapeButton(ok);
+    if (pMessage.buttons == okAndCancel) {
+        box.setEscapeButton(box.addButton(QMessageBox::Cancel));
+    }
+    const QScopedValueRollback depth(myDepth, myDepth + 1);
+    return box.exec() == QMessageBox::Ok ? resultOk : resultCancel;
+}
+
+std::optional<std::string> QtDesktop::ShowFileDialog(const Form &pForm, const FileDialogRequest &pRequest) {
+    Sync();
+    FileDialog dialog(WindowOf(pForm), pRequest);
+    const QScopedValueRollback depth(myDepth, myDepth + 1);
+    return dialog.Ask();
+}
+
+void QtDesktop::ShowForm(Form &pForm) {
+    FormWindow *window = WindowOf(pForm);
+    if (window == nullptr) {
+        window = new FormWindow(*this, pForm);
+        myWindows[&pForm] = window;
+        window->show();
+        return;
+    }
+    if (window->isMinimized()) {
+        window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
+    }
+    window->raise();
+    window->activateWindow();
+}
+
+void QtDesktop::CloseForm(Form &pForm) {
+    FormWindow *window = WindowOf(pForm);
+    myWindows.erase(&pForm);
+    if (window != nullptr) {
+        window->Retire();
+    }
+}
+
+void QtDesktop::OpenTarget(const std::string &pTarget) {
+    if (IsAddress(pTarget)) {
+        QDesktopServices::openUrl(QUrl(ToQt(pTarget)));
+    } else if (os::IsFile(pTarget) || os::IsFolder(pTarget)) {
+        const QFileInfo file(ToQt(os::NativePath(pTarget)));
+        QDesktopServices::openUrl(QUrl::fromLocalFile(file.absoluteFilePath()));
+    }
+}
+
+void QtDesktop::EndProcess(int pStatus) {
+    std::fflush(nullptr);
+    std::_Exit(pStatus);
+}

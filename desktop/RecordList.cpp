@@ -1,0 +1,248 @@
+#include "desktop/RecordList.h"
+
+#include "desktop/Look.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+#include <QStyledItemDelegate>
+#include <QTimer>
+
+#include <algorithm>
+
+namespace {
+
+/// Draws the mark of the keyboard's place only where the selection doesn't show it.
+class RowDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem *pOption, const QModelIndex &pIndex) const override {
+        QStyledItemDelegate::initStyleOption(pOption, pIndex);
+        if (pOption->state.testFlag(QStyle::State_Selected)) {
+            pOption->state.setFlag(QStyle::State_HasFocus, false);
+        }
+    }
+};
+
+} // namespace
+
+RecordList::RecordList(Acts &pActs, ListView &pList, QWidget &pParent)
+    : QTableView(&pParent), ControlView(pActs, pList), myList(pList), myModel(pList) {
+    setModel(&myModel);
+    Prepare();
+    connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
+        if (!myIsShowing) {
+            // Not at once: Qt is in the middle of changing its selection.
+            QMetaObject::invokeMethod(
+                this, [this] { SelectedByOthers(); }, Qt::QueuedConnection);
+        }
+    });
+}
+
+RecordList::~RecordList() {
+    setModel(nullptr); // Qt's part of the list goes after the model.
+}
+
+void RecordList::Prepare() {
+    setItemDelegate(new RowDelegate(this));
+    setSelectionBehavior(SelectRows);
+    setSelectionMode(SingleSelection);
+    setEditTriggers(NoEditTriggers);
+    setTabKeyNavigation(false);
+    setAutoScroll(false);
+    setDragDropMode(NoDragDrop);
+    setWordWrap(false);
+    setTextElideMode(Qt::ElideRight);
+    setCornerButtonEnabled(false);
+    setHorizontalScrollMode(ScrollPerPixel);
+    setVerticalScrollMode(ScrollPerItem);
+
+    verticalHeader()->hide();
+    verticalHeader()->setMinimumSectionSize(1);
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+
+    QHeaderView &headings = *horizontalHeader();
+    headings.setSectionsClickable(false);
+    headings.setSectionsMovable(false);
+    headings.setHighlightSections(false);
+    headings.setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    headings.setTextElideMode(Qt::ElideRight);
+    headings.setMinimumSectionSize(0);
+    headings.setStretchLastSection(false);
+    FitRowHeight();
+}
+
+void RecordList::FitRowHeight() {
+    constexpr int roomAround = 4;
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + roomAround);
+}
+
+void RecordList::changeEvent(QEvent *pEvent) {
+    QTableView::changeEvent(pEvent);
+    if (pEvent->type() == QEvent::FontChange) {
+        FitRowHeight();
+    }
+}
+
+QRect RecordList::PlaceOf() const {
+    // The columns' widths count on the control's whole width, so the frame goes around it.
+    const int frame = frameWidth();
+    return ControlView::PlaceOf().adjusted(-frame, -frame, frame, frame);
+}
+
+void RecordList::Show() {
+    const QScopedValueRollback showing(myIsShowing, true);
+    if (myShownRows != myList.RowsRevision() || myModel.columnCount() != myList.ColumnHeaders.Count()) {
+        ShowRows();
+    } else {
+        ShowSelection();
+    }
+    if (myShownColumns != myList.ColumnsRevision()) {
+        ShowColumns();
+    }
+}
+
+void RecordList::ShowColumns() {
+    myShownColumns = myList.ColumnsRevision();
+    // The running edges are rounded, not each width: many narrow columns keep their sum.
+    double edge = 0;
+    int shownEdge = 0;
+    for (int column = 1; column <= myList.ColumnHeaders.Count(); ++column) {
+        edge += std::max(0.0, static_cast<double>(myList.ColumnHeaders(column).Width));
+        const int width = Pixels(edge) - shownEdge;
+        shownEdge += width;
+        setColumnWidth(column - 1, width);
+    }
+}
+
+void RecordList::ShowRows() {
+    myShownRows = myList.RowsRevision();
+    const int top = verticalScrollBar()->value();
+    const int left = horizontalScrollBar()->value();
+    const int before = myShownSelected;
+    if (myModel.columnCount() != myList.ColumnHeaders.Count()) {
+        myShownColumns = 0;
+    }
+    myModel.Reset();
+    updateGeometries(); // Else the scroll bars have no range yet to put their values into.
+    verticalScrollBar()->setValue(top);
+    horizontalScrollBar()->setValue(left);
+    ShowSelection();
+    const bool hasMoved = before != 0 && myShownSelected != 0 && before != myShownSelected;
+    if (hasMoved) {
+        ScrollTo(myShownSelected - 1);
+    }
+}
+
+void RecordList::ShowSelection() {
+    myShownSelected = myList.SelectedIndex();
+    QItemSelectionModel &selection = *selectionModel();
+    const auto rowAt = [this](int pPlace) { return myModel.index(pPlace - 1, 0); };
+    selection.setCurrentIndex(rowAt(myList.CurrentIndex()), QItemSelectionModel::NoUpdate);
+    if (myShownSelected == 0) {
+        selection.clearSelection();
+    } else {
+        selection.select(rowAt(myShownSelected),
+                         QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    }
+}
+
+void RecordList::SelectedByOthers() {
+    const QModelIndexList rows = selectionModel()->selectedRows();
+    const int place = rows.isEmpty() ? 0 : rows.first().row() + 1;
+    if (place == myList.SelectedIndex()) {
+        return;
+    }
+    if (place > 0 && place <= myList.ListItems.Count()) {
+        myActs.Handle([&] { myList.Pick(place); });
+    }
+    const QScopedValueRollback showing(myIsShowing, true);
+    ShowSelection(); // Where nothing was picked, the runtime's selection comes back.
+}
+
+void RecordList::ScrollTo(int pRow) {
+    const int left = horizontalScrollBar()->value();
+    scrollTo(myModel.index(pRow, 0), EnsureVisible);
+    horizontalScrollBar()->setValue(left);
+}
+
+int RecordList::PageOfRows() const {
+    return std::max(viewport()->height() / verticalHeader()->defaultSectionSize() - 1, 1);
+}
+
+int RecordList::PlaceByKey(int pKey) const {
+    const int current = myList.CurrentIndex();
+    const bool isSelected = myList.SelectedItem() != nullptr;
+    switch (pKey) {
+    case Qt::Key_Up:
+        return isSelected ? current - 1 : current;
+    case Qt::Key_Down:
+        return isSelected ? current + 1 : current;
+    case Qt::Key_PageUp:
+        return current - PageOfRows();
+    case Qt::Key_PageDown:
+        return current + PageOfRows();
+    case Qt::Key_Home:
+        return 1;
+    case Qt::Key_End:
+        return myList.ListItems.Count();
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return current;
+    default:
+        return 0;
+    }
+}
+
+void RecordList::PickByKey(int pPlace) {
+    if (myList.ListItems.Count() > 0) {
+        const int place = std::clamp(pPlace, 1, myList.ListItems.Count());
+        myActs.Handle([&] { myList.Pick(place); });
+        ScrollTo(place - 1);
+    }
+}
+
+void RecordList::keyPressEvent(QKeyEvent *pEvent) {
+    switch (pEvent->key()) {
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+    case Qt::Key_Home:
+    case Qt::Key_End:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        PickByKey(PlaceByKey(pEvent->key()));
+        break;
+    case Qt::Key_Left:
+        horizontalScrollBar()->triggerAction(QScrollBar::SliderSingleStepSub);
+        break;
+    case Qt::Key_Right:
+        horizontalScrollBar()->triggerAction(QScrollBar::SliderSingleStepAdd);
+        break;
+    default:
+        pEvent->ignore(); // Qt's own search by letters would move the selection.
+    }
+}
+
+void RecordList::mousePressEvent(QMouseEvent *pEvent) {
+    const QModelIndex cell = indexAt(pEvent->position().toPoint());
+    if (pEvent->button() == Qt::LeftButton && cell.isValid()) {
+        myActs.Handle([&] { myList.Pick(cell.row() + 1); });
+    }
+}
+
+void RecordList::mouseDoubleClickEvent(QMouseEvent *pEvent) {
+    mousePressEvent(pEvent); // Two quick clicks may well be on two rows.
+}
+
+void RecordList::mouseMoveEvent(QMouseEvent * /*pEvent*/) {
+    // A drag picks nothing; Qt would move the selection along.
+}
+
+void RecordList::mouseReleaseEvent(QMouseEvent * /*pEvent*/) {}

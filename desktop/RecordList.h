@@ -1,0 +1,45 @@
+#pragma once
+/// The face of a ListView: a table in which the user picks rows. What is selected is the runtime's to say;
+/// Qt's own selection only shows it.
+#include "desktop/ControlView.h"
+#include "desktop/RecordModel.h"
+
+#include <QTableView>
+
+class RecordList : public QTableView, public ControlView {
+public:
+    RecordList(Acts &pActs, ListView &pList, QWidget &pParent);
+    ~RecordList() override;
+    QWidget &Widget() override { return *this; }
+    bool TakesFocusOfDisabled() const override { return true; }
+
+protected:
+    Qt::FocusPolicy FocusPolicy() const override { return Qt::StrongFocus; }
+    QRect PlaceOf() const override;
+    void Show() override;
+    void keyPressEvent(QKeyEvent *pEvent) override;
+    void mousePressEvent(QMouseEvent *pEvent) override;
+    void mouseDoubleClickEvent(QMouseEvent *pEvent) override;
+    void mouseMoveEvent(QMouseEvent *pEvent) override;
+    void mouseReleaseEvent(QMouseEvent *pEvent) override;
+    void changeEvent(QEvent *pEvent) override;
+
+private:
+    void Prepare();
+    void FitRowHeight();
+    void ShowColumns();
+    void ShowRows();
+    void ShowSelection();
+    void SelectedByOthers();
+    void ScrollTo(int pRow);
+    void PickByKey(int pPlace);
+    int PlaceByKey(int pKey) const;
+    int PageOfRows() const;
+
+    ListView &myList;
+    RecordModel myModel;
+    bool myIsShowing = false;
+    int myShownRows = 0;
+    int myShownColumns = 0;
+    int myShownSelected = 0;
+};

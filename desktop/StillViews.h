@@ -1,0 +1,43 @@
+#pragma once
+/// The faces of the controls that take no focus: label, picture, line.
+#include "desktop/ControlView.h"
+#include "platform/Controls.h"
+
+#include <QLabel>
+
+/// A label of one line says with an ellipsis that it is cut; a higher one breaks its text into lines.
+class LabelView : public QLabel, public ControlView {
+public:
+    LabelView(Acts &pActs, const Label &pLabel, QWidget &pParent);
+    QWidget &Widget() override { return *this; }
+
+protected:
+    void Show() override;
+    void paintEvent(QPaintEvent *pEvent) override;
+    void mousePressEvent(QMouseEvent *pEvent) override;
+    void mouseReleaseEvent(QMouseEvent *pEvent) override;
+
+private:
+    const Label &myLabel;
+};
+
+class PictureView : public QLabel, public ControlView {
+public:
+    PictureView(Acts &pActs, const PictureBox &pBox, QWidget &pParent);
+    QWidget &Widget() override { return *this; }
+
+protected:
+    void Show() override;
+};
+
+class LineView : public QWidget, public ControlView {
+public:
+    LineView(Acts &pActs, const Line &pLine, QWidget &pParent);
+    QWidget &Widget() override { return *this; }
+
+protected:
+    void Show() override;
+
+private:
+    const Line &myLine;
+};

@@ -1,0 +1,37 @@
+/// The program: puts the desktop under the runtime and the runtime under the editor, and runs the event loop.
+#include "app/modMain.h"
+#include "desktop/ContrastStyle.h"
+#include "desktop/Look.h"
+#include "desktop/QtDesktop.h"
+#include "platform/Runtime.h"
+#include "platform/System.h"
+#include "platform/VersionRecord.h"
+
+#include <QApplication>
+
+#include <string>
+#include <vector>
+
+int main(int argc, char *argv[]) {
+    os::ReportWriteLimits();
+    const std::string command = CommandText(std::vector<std::string>(argv + (argc > 0 ? 1 : 0), argv + argc));
+
+    // The toolkit must not see the words: it takes those that it knows for its own.
+    std::string name(versionRecord::productName);
+    char *words[] = {name.data(), nullptr};
+    int wordCount = 1;
+    QApplication application(wordCount, words);
+    QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setDesktopFileName(QStringLiteral("example.norvo.EditDat"));
+    QApplication::setWindowIcon(ProgramIcon());
+    if (QApplication::style()->name() == QStringLiteral("fusion")) {
+        QApplication::setStyle(new ContrastStyle(QStringLiteral("fusion")));
+    }
+
+    QtDesktop desktop;
+    Runtime runtime(desktop, MakeAppRecord(os::ProgramFile()), command);
+    desktop.Serves(runtime);
+    modMain module(runtime);
+    desktop.Handle([&] { module.Main(); });
+    return QApplication::exec();
+}

@@ -1,0 +1,38 @@
+# What "cmake --install" puts where.
+
+include(GNUInstallDirs)
+
+if(WIN32)
+    set(program_folder .)
+else()
+    # Always lib, never lib64 or a folder of one architecture: the manual and the help page name this folder.
+    set(program_folder lib/NorvoEditDat)
+endif()
+
+install(TARGETS NorvoEditDat RUNTIME DESTINATION "${program_folder}")
+foreach(file IN LISTS beside_files)
+    cmake_path(GET file PARENT_PATH folder)
+    install(FILES "share/${file}" DESTINATION "${program_folder}/${folder}")
+endforeach()
+
+if(WIN32)
+    return()
+endif()
+
+# The program follows the link to its own file, and so finds what stands beside that.
+file(RELATIVE_PATH program_from_bin "/${CMAKE_INSTALL_BINDIR}" "/${program_folder}/NorvoEditDat")
+install(CODE "
+    set(bin \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_BINDIR}\")
+    file(MAKE_DIRECTORY \"\${bin}\")
+    file(CREATE_LINK \"${program_from_bin}\" \"\${bin}/NorvoEditDat\" SYMBOLIC)")
+
+set(application example.norvo.EditDat)
+configure_file("share/${application}.metainfo.xml.in" "${application}.metainfo.xml" @ONLY)
+install(FILES "${CMAKE_CURRENT_BINARY_DIR}/${application}.metainfo.xml"
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/metainfo")
+install(FILES "share/${application}.desktop" DESTINATION "${CMAKE_INSTALL_DATADIR}/applications")
+install(DIRECTORY share/icons/hicolor DESTINATION "${CMAKE_INSTALL_DATADIR}/icons")
+install(FILES share/icons/norvo-editdat.svg
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps" RENAME "${application}.svg")
+install(FILES share/NorvoEditDat.1 DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")
+install(FILES README.md LICENSE DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/norvo-edit-dat")

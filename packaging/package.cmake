@@ -1,0 +1,47 @@
+# What "cpack" makes: a Debian package from a build, and "cpack --config CPackSourceConfig.cmake" an archive
+# of the sources.
+
+set(CPACK_PACKAGE_NAME norvo-edit-dat)
+set(CPACK_PACKAGE_VENDOR "Norvo")
+set(CPACK_PACKAGE_CONTACT "Norvo Data File Editor authors <authors@norvo.example>")
+set(CPACK_PACKAGE_HOMEPAGE_URL "${NORVO_HOME_PAGE}")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "editor for lists of records in plain text files")
+set(CPACK_PACKAGE_DESCRIPTION
+"NorvoEditDat keeps lists clean: a few hundred or a few thousand records in
+a plain text file, edited by one person, mostly by keyboard.
+.
+A specification file of a few lines says what a record consists of. From it
+the program builds its form, with a field for each column above the list of
+all records. A field can offer a list of values, insist on one of them, and
+complete what is typed.
+.
+Data files are comma-separated values, or the program's own form with the
+number of records in front. A sample and a help page are included.")
+set(CPACK_RESOURCE_FILE_LICENSE "${CMAKE_CURRENT_SOURCE_DIR}/LICENSE")
+set(CPACK_STRIP_FILES ON)
+set(CPACK_VERBATIM_VARIABLES ON)
+
+set(CPACK_GENERATOR DEB)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_SECTION editors)
+set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+# The forms are laid out in a font of these metrics; no library asks for it.
+set(CPACK_DEBIAN_PACKAGE_DEPENDS fonts-liberation)
+# One finds the program for the help page, the other is Qt's way to a desktop without X.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland, xdg-utils")
+
+configure_file(packaging/copyright.in copyright @ONLY)
+set(CPACK_NORVO_COPYRIGHT "${CMAKE_CURRENT_BINARY_DIR}/copyright")
+set(CPACK_NORVO_CHANGELOG "${CMAKE_CURRENT_SOURCE_DIR}/packaging/changelog")
+set(CPACK_NORVO_MANDIR "${CMAKE_INSTALL_MANDIR}")
+set(CPACK_PRE_BUILD_SCRIPTS "${CMAKE_CURRENT_SOURCE_DIR}/packaging/debian-documents.cmake")
+
+set(CPACK_SOURCE_GENERATOR TXZ)
+set(CPACK_SOURCE_PACKAGE_FILE_NAME "${CPACK_PACKAGE_NAME}-${PROJECT_VERSION}")
+# The patterns meet whole paths: without the top in front, sources below a folder "build" would all be left out.
+string(REGEX REPLACE "([][+.*^$()|?\\\\])" "\\\\\\1" top "${CMAKE_CURRENT_SOURCE_DIR}")
+set(CPACK_SOURCE_IGNORE_FILES
+    "^${top}/\\.git/" "^${top}/build[^/]*/" "^${top}/CMakeUserPresets\\.json$" "/__pycache__/" "~$" "\\.swp$")
+
+include(CPack)
