@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <optional>
 #include <utility>
 
 namespace {
@@ -17,10 +18,9 @@ using modGetWords::GetWords;
 /// A number of rows from here on says nothing to a reader. It may have hundreds of digits, or be an infinity.
 constexpr double mostShownRows = 1e9;
 
-/// One of the two numbers on the first line. Text that isn't numeric counts as 0; nothing when it is missing.
-std::optional<double> SizeItem(TextInput &pFile) {
-    const std::optional<std::string_view> item = pFile.InputItem();
-    return item ? std::optional(WholeNumber(*item).value_or(0)) : std::nullopt;
+/// One of the two numbers on the first line. Text that isn't numeric counts as 0.
+double SizeItem(std::string_view pItem) {
+    return WholeNumber(pItem).value_or(0);
 }
 
 std::size_t WordCount(const std::vector<std::string> &pWords) {
@@ -39,18 +39,19 @@ void clsDatFile::StoreRow(int pRow, std::vector<std::string> pWords) {
 }
 
 void clsDatFile::TakeSizeFrom(TextInput &pFile) {
-    const std::optional<double> rows = SizeItem(pFile);
-    const std::optional<double> cols = SizeItem(pFile);
+    const std::optional<std::string_view> rowsItem = pFile.InputItem();
+    const std::optional<std::string_view> colsItem = pFile.InputItem();
     pFile.LineInput(); // Whatever else the first line holds.
-    const std::optional<std::int16_t> fittingCols = cols ? Integer16(*cols) : std::nullopt;
-    if (!rows || !fittingCols || *fittingCols < 0) {
+    const std::optional<std::int16_t> fittingCols = colsItem ? Integer16(SizeItem(*colsItem)) : std::nullopt;
+    if (!rowsItem || !fittingCols || *fittingCols < 0) {
         EmptyTable(0);
         return;
     }
-    const std::optional<std::int16_t> fittingRows = Integer16(*rows);
-    if (!fittingRows && *rows > mostRows) {
+    const double rows = SizeItem(*rowsItem);
+    const std::optional<std::int16_t> fittingRows = Integer16(rows);
+    if (!fittingRows && rows > mostRows) {
         EmptyTable(static_cast<std::size_t>(*fittingCols));
-        const std::string announced = *rows < mostShownRows ? FormatWhole(*rows) : "far too many";
+        const std::string announced = rows < mostShownRows ? FormatWhole(rows) : "far too many";
         Refuse(Fault::Kind::WrongSize, "announces " + announced + " records. A table holds at most " +
                                            std::to_string(mostRows) + ", so none were read.");
         return;
@@ -62,6 +63,10 @@ void clsDatFile::TakeSizeFrom(TextInput &pFile) {
     myRows = *fittingRows;
     myCols = *fittingCols;
     Clear();
+    if (!WholeNumber(*rowsItem)) {
+        // An empty list without a word would be taken for the file, and saved over it.
+        Refuse(Fault::Kind::WrongSize, "doesn't begin with the number of its records, so none were read.");
+    }
 }
 
 void clsDatFile::LoadDat() {

@@ -37,25 +37,33 @@ std::optional<std::int16_t> SumWith(std::int16_t pSum, double pPercent) {
     return Integer16(pSum + pPercent);
 }
 
+/// pText in quotes for a message: one line, and no more of it than a person reads.
+std::string Quoted(std::string_view pText) {
+    constexpr std::size_t mostBytes = 60;
+    std::string text = WithoutNewLineBreaks("", pText.substr(0, mostBytes));
+    return '"' + text + (pText.size() > mostBytes ? "...\"" : "\"");
+}
+
 /// What is wrong with row pRow, pSum being the percents before it; empty when nothing is.
 std::string RowFault(const clsDatFile &pSpec, std::int16_t pRow, std::int16_t pSum) {
+    const std::string row = "Row " + std::to_string(pRow + 1) + " ";
     bool isFilled = false;
     for (std::int16_t col = 0; col < specCols; ++col) {
         isFilled = isFilled || !pSpec.Data(pRow, col).empty();
     }
     if (!isFilled) {
-        return "is empty: its fields are, or its line or one before it doesn't have 4 fields.";
+        return row + "is empty: its fields are, or its line or one before it doesn't have 4 fields.";
     }
     const std::string width = pSpec.Data(pRow, widthCol);
     if (!WholeTextInteger(width)) {
-        return "has the width \"" + width + "\", which is not a number from -32768 to 32767.";
+        return row + "has the width " + Quoted(width) + ", which is not a number from -32768 to 32767.";
     }
     const std::string mode = pSpec.Data(pRow, modeCol);
     if (!IsTextBox(pSpec, pRow) && !Integer16(Val(mode))) {
-        return "has the mode \"" + mode + "\", which is beyond -32768 to 32767.";
+        return row + "has the mode " + Quoted(mode) + ", which is beyond -32768 to 32767.";
     }
     if (!SumWith(pSum, Percent(pSpec, pRow))) {
-        return "brings the sum of the widths beyond -32768 to 32767.";
+        return row + "brings the sum of the widths beyond -32768 to 32767.";
     }
     return {};
 }
@@ -87,7 +95,7 @@ void frmMain::TestSpecification() {
     for (std::int16_t row = 0; row < mySpec->Rows(); ++row) {
         const std::string rowFault = RowFault(*mySpec, row, sum);
         if (!rowFault.empty()) {
-            StopOnSpecification(error + "Row " + std::to_string(row + 1) + " " + rowFault);
+            StopOnSpecification(error + rowFault);
         }
         sum = SumWith(sum, Percent(*mySpec, row)).value_or(0);
     }
@@ -160,8 +168,8 @@ void frmMain::BuildCombo(std::int16_t pRow, ComboBox &pBox) {
     combo->Mode(mode);
     const std::string fault = combo->LoadFromTxtFile(listFile);
     if (!fault.empty()) {
-        TellFault("List file " + listFile + " can't be read: " + fault + ". The list of \"" +
-                  mySpec->Data(pRow, headingCol) + "\" is empty, and the field takes any text.");
+        TellFault("List file " + listFile + " can't be read: " + fault + ". The list of " +
+                  Quoted(mySpec->Data(pRow, headingCol)) + " is empty, and the field takes any text.");
     }
     if (mode >= 1 && pBox.ListCount() > 0) {
         pBox.AccessibleDescription("one of the listed values");

@@ -3,12 +3,11 @@
 #include "platform/Text.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
 constexpr int keyBack = 8;
-constexpr int keyShift = 16;
-constexpr int keyAlt = 18;
 constexpr int keyDelete = 46;
 
 } // namespace
@@ -30,6 +29,7 @@ void ComboBox::Move(double pLeft, double pTop, double pWidth) {
 void ComboBox::Text(const std::string &pText) {
     myText = pText;
     myListIndex = -1;
+    myWasTypedIn = false;
     SelStart(0);
 }
 
@@ -48,6 +48,7 @@ void ComboBox::ListIndex(int pIndex) {
     myListIndex = pIndex;
     if (pIndex >= 0) {
         myText = List(pIndex);
+        myWasTypedIn = false; // A text that was picked, say, is no typed one.
         SelStart(0);
     }
     Touch();
@@ -78,6 +79,7 @@ void ComboBox::UserEdits(const std::string &pText, int pSelStart) {
     // Counted from the end, since a CR LF in front of the caret has become one character.
     SelStart(pSelStart + Utf16Length(myText) - Utf16Length(pText));
     myWasTypedIn = myLastKeyDown != keyBack && myLastKeyDown != keyDelete;
+    myLastKeyDown = 0; // A text that an input method brings comes without a key of its own.
 }
 
 void ComboBox::UserSelects(int pSelStart, int pSelLength) {
@@ -85,18 +87,8 @@ void ComboBox::UserSelects(int pSelStart, int pSelLength) {
     mySelLength = pSelLength;
 }
 
-void ComboBox::UserReleasesKey(int pKeyCode, int pShift) {
-    KeyUp.Raise(pKeyCode, pShift);
-    // Shift is often let go before the letter that it was held for, whose release is the one to answer.
-    if (pKeyCode < keyShift || pKeyCode > keyAlt) {
-        myWasTypedIn = false;
-    }
-}
-
-void ComboBox::UserPicks(int pIndex) {
-    ListIndex(pIndex);
-    // A picked text is no typed one: the release of the next key, Ctrl+A say, has nothing to complete.
-    myWasTypedIn = false;
+bool ComboBox::TakeTyped() {
+    return std::exchange(myWasTypedIn, false);
 }
 
 bool ComboBox::MayLoseFocus() const {

@@ -48,17 +48,17 @@ public:
     int SelLength() const { return mySelLength; }
     void SelLength(int pLength);
 
-    /// Whether the user has changed the text since the last release of a key, other than by erasing. While
-    /// keys are typed fast, one is pressed before another is released, and only this tells whether a release
-    /// has anything to answer. The release of Shift, Ctrl or Alt leaves it as it is.
-    bool WasTypedIn() const { return myWasTypedIn; }
+    /// Whether the user has changed the text, other than by erasing, since this was asked last. While keys
+    /// are typed fast, one is pressed before another is released, and only this tells whether a release has
+    /// anything to answer.
+    bool TakeTyped();
 
     /// The acts of the user. Key codes are the runtime's virtual-key codes; pShift is their bit field.
     void UserPressesKey(int pKeyCode) { myLastKeyDown = pKeyCode; }
     void UserEdits(const std::string &pText, int pSelStart);
     void UserSelects(int pSelStart, int pSelLength);
-    void UserReleasesKey(int pKeyCode, int pShift);
-    void UserPicks(int pIndex);
+    void UserReleasesKey(int pKeyCode, int pShift) { KeyUp.Raise(pKeyCode, pShift); }
+    void UserPicks(int pIndex) { ListIndex(pIndex); }
 
     /// Asks the client whether the focus may leave the box.
     bool MayLoseFocus() const;

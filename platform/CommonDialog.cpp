@@ -32,9 +32,12 @@ void CommonDialog::ShowSave() {
 }
 
 void CommonDialog::Show(Purpose pPurpose) {
-    const PathParts preset = SplitPath(myFileName);
-    if (!preset.folder.empty()) {
+    PathParts preset = SplitPath(myFileName);
+    if (os::IsFolder(preset.folder)) {
         myLastFolder = preset.folder;
+    } else {
+        // In another folder the bare name would be another file, and perhaps one that is there.
+        preset = {"", myFileName};
     }
     const std::size_t bar = std::min(myFilter.find('|'), myFilter.size());
     FileDialogRequest request;

@@ -29,9 +29,12 @@ std::string_view TextInput::LineInput() {
 std::optional<std::string_view> TextInput::InputItem() {
     const std::string_view bytes = myBytes;
     const auto at = [&] { return myAt < bytes.size() ? bytes[myAt] : '\r'; };
-    while (at() == ' ') {
-        ++myAt;
-    }
+    const auto skipBlanks = [&] {
+        while (at() == ' ') {
+            ++myAt;
+        }
+    };
+    skipBlanks();
     if (at() == '\r') {
         return std::nullopt;
     }
@@ -40,7 +43,8 @@ std::optional<std::string_view> TextInput::InputItem() {
         ++myAt;
     }
     const std::string_view item = bytes.substr(from, myAt - from);
-    myAt += at() == '\r' ? 0 : 1;
+    skipBlanks();
+    myAt += at() == ',' ? 1 : 0;
     return item;
 }
 

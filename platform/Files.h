@@ -26,11 +26,9 @@ public:
     std::string_view LineInput();
 
     /// The next item of the current line: what stands up to a comma, a blank or the end of the line, blanks
-    /// before it skipped, the comma or blank behind it taken too. Nothing when the line has no further item.
+    /// before it skipped, and what ends it taken too: a comma, or blanks and a comma if one follows them.
+    /// Nothing when the line has no further item.
     std::optional<std::string_view> InputItem();
-
-    /// Goes back to the first byte.
-    void SeekToStart() { myAt = 0; }
 
 private:
     std::string myBytes;

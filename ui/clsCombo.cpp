@@ -50,7 +50,7 @@ std::string clsCombo::LoadFromTxtFile(const std::string &pFn) {
 void clsCombo::myCB_KeyUp(int KeyCode, int /*Shift*/) {
     // Of two keys typed fast, the first release finds both characters there. Completing again at the second
     // would take the completed part for typed.
-    if (myMode == 2 && TypesText(KeyCode) && myCB->WasTypedIn()) {
+    if (myMode == 2 && TypesText(KeyCode) && myCB->TakeTyped()) {
         AutoComplete(*myCB);
     }
 }

