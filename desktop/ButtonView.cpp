@@ -68,7 +68,7 @@ void ButtonView::keyPressEvent(QKeyEvent *pEvent) {
     const bool isEnter = pEvent->key() == Qt::Key_Return || pEvent->key() == Qt::Key_Enter;
     if (!isEnter) {
         QPushButton::keyPressEvent(pEvent);
-    } else if (!pEvent->isAutoRepeat()) {
+    } else {
         click();
     }
 }

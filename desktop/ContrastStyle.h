@@ -1,6 +1,6 @@
 #pragma once
-/// The desktop's style with outlines that stay to be seen on black: the Fusion style draws them a shade darker
-/// than the ground, and on the black of a high-contrast desktop that is no outline at all.
+/// The desktop's style with outlines that stay to be seen on black: the Fusion style draws them a shade
+/// darker than the ground, and on the black of a high-contrast desktop that is no outline at all.
 #include <QProxyStyle>
 
 class ContrastStyle : public QProxyStyle {

@@ -44,7 +44,7 @@ void ControlView::ShowCommon() {
     widget.setFocusPolicy(TakesFocus() ? FocusPolicy() : Qt::NoFocus);
     widget.setVisible(myControl.Visible());
     widget.setToolTip(ToQt(myControl.ToolTipText()));
-    widget.setAccessibleName(ToQt(myControl.AccessibleName()));
+    widget.setAccessibleName(ToQt(myControl.AccessibleName(), mostShown));
     widget.setAccessibleDescription(ToQt(myControl.AccessibleDescription()));
     ShowEnabled();
 }

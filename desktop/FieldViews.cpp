@@ -14,8 +14,22 @@
 namespace {
 
 constexpr int mostCharacters = std::numeric_limits<int>::max();
-/// Of a long entry the popup shows this much; no screen shows more.
-constexpr int mostShown = 1000;
+/// A text of more bytes is shown by its beginning and can't be edited in a field: each key and each blink of
+/// the caret would measure all of it anew. The record keeps it whole.
+constexpr std::size_t mostEdited = 1'000'000;
+
+/// An access key that no button answers. To a line edit it would be a letter to type.
+bool IsAccessKey(const QKeyEvent &pEvent) {
+    const auto held = pEvent.modifiers() & (Qt::AltModifier | Qt::ControlModifier | Qt::GroupSwitchModifier);
+    return held == Qt::AltModifier && !pEvent.text().isEmpty() && pEvent.text().at(0).isPrint();
+}
+
+/// What a field shows of its text. It takes no edits while that is not all of it.
+QString Shown(const std::string &pText, QLineEdit &pEdit) {
+    const bool isTooLong = pText.size() > mostEdited;
+    pEdit.setReadOnly(isTooLong);
+    return isTooLong ? ToQtLine(pText, mostShown) : ToQt(pText);
+}
 
 } // namespace
 
@@ -36,14 +50,22 @@ void TextBoxView::Edited(const QString &pText) {
 }
 
 void TextBoxView::Show() {
-    const QString shown = ToQt(myBox.Text());
+    const QScopedValueRollback showing(myIsShowing, true);
+    const QString shown = Shown(myBox.Text(), *this);
     if (text() == shown) {
         return;
     }
-    const QScopedValueRollback showing(myIsShowing, true);
     setText(shown);
     // A text that the user is editing keeps the caret where it was; any other is seen from its start.
     setCursorPosition(myIsEditing ? static_cast<int>(shown.size() - myCaretFromEnd) : 0);
+}
+
+void TextBoxView::keyPressEvent(QKeyEvent *pEvent) {
+    if (IsAccessKey(*pEvent)) {
+        pEvent->ignore();
+    } else {
+        QLineEdit::keyPressEvent(pEvent);
+    }
 }
 
 void ComboEntries::Sync() {
@@ -131,7 +153,7 @@ void ComboBoxView::Show() {
 
 void ComboBoxView::ShowText() {
     QLineEdit &edit = *lineEdit();
-    const QString shown = ToQt(myBox.Text());
+    const QString shown = Shown(myBox.Text(), edit);
     if (edit.text() != shown) {
         edit.setText(shown);
     }
@@ -191,7 +213,7 @@ void ComboBoxView::keyPressEvent(QKeyEvent *pEvent) {
     const bool isPlain = !(pEvent->modifiers() & (Qt::AltModifier | Qt::ControlModifier));
     const int page = maxVisibleItems();
     const bool hasEntries = myBox.ListCount() > 0;
-    if (pEvent->key() == Qt::Key_Return || pEvent->key() == Qt::Key_Enter) {
+    if (pEvent->key() == Qt::Key_Return || pEvent->key() == Qt::Key_Enter || IsAccessKey(*pEvent)) {
         pEvent->ignore(); // The form's default button may want it.
     } else if (isPlain && (pEvent->key() == Qt::Key_Up || pEvent->key() == Qt::Key_Down)) {
         if (hasEntries) {

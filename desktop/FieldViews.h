@@ -16,6 +16,7 @@ public:
 protected:
     Qt::FocusPolicy FocusPolicy() const override { return Qt::StrongFocus; }
     void Show() override;
+    void keyPressEvent(QKeyEvent *pEvent) override;
 
 private:
     void Edited(const QString &pText);

@@ -69,18 +69,18 @@ void FileDialog::FitColumns() {
 
 void FileDialog::accept() {
     const QString name = myNameEdit == nullptr ? QString() : myNameEdit->text();
+    const QString path = QDir::isAbsolutePath(name) ? name : directory().filePath(name);
+    if (!name.isEmpty() && QFileInfo(path).isDir()) {
+        setDirectory(path);
+        myNameEdit->clear(); // Left there, it would be looked for once more, inside itself.
+        return;
+    }
     if (!name.contains(u'"')) {
         QFileDialog::accept();
         return;
     }
-    const QString path = QDir::isAbsolutePath(name) ? name : directory().filePath(name);
-    if (QFileInfo(path).isDir()) {
-        setDirectory(path);
-        myNameEdit->clear();
-        return;
-    }
     myChosen = path;
-    QDialog::accept();
+    done(Accepted);
 }
 
 std::optional<std::string> FileDialog::Ask() {

@@ -227,7 +227,7 @@ void FormWindow::closeEvent(QCloseEvent *pEvent) {
 }
 
 void FormWindow::keyPressEvent(QKeyEvent *pEvent) {
-    if (!myIsReady || pEvent->isAutoRepeat()) {
+    if (!myIsReady) {
         return;
     }
     if (pEvent->key() == Qt::Key_Escape) {

@@ -23,6 +23,8 @@ constexpr int resultOk = 1;
 constexpr int resultCancel = 2;
 constexpr int okAndCancel = 1;
 constexpr int criticalStop = 16;
+/// Of a longer prompt this much is shown, so that the box stays on the screen.
+constexpr int mostOfPrompt = 4000;
 
 /// Whether pTarget is a web address or the like. One letter before the colon is a drive.
 bool IsAddress(const std::string &pTarget) {
@@ -36,6 +38,7 @@ QtDesktop::QtDesktop() {
     // Qt's file dialog leaves a file of its own when it closes. The program keeps no state, so Qt is given a
     // place where nothing can be written.
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("/dev/null"));
+    QCoreApplication::instance()->installEventFilter(&myHeldKeys);
 }
 
 QtDesktop::~QtDesktop() {
@@ -92,7 +95,7 @@ int QtDesktop::ShowMessage(const Message &pMessage) {
     box.setIcon(pMessage.buttons == criticalStop ? QMessageBox::Critical : QMessageBox::NoIcon);
     box.setWindowTitle(ToQtTitle(pMessage.title));
     box.setTextFormat(Qt::PlainText);
-    box.setText(ToQt(pMessage.prompt).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
+    box.setText(ToQt(pMessage.prompt, mostOfPrompt).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
     QPushButton *ok = box.addButton(QMessageBox::Ok);
     box.setDefaultButton(ok);
     box.setEscapeButton(ok);

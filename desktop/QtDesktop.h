@@ -3,6 +3,7 @@
 /// process; and the one road by which the user's acts reach the program.
 #include "desktop/Acts.h"
 #include "desktop/FormWindow.h"
+#include "desktop/HeldKeys.h"
 #include "platform/Desktop.h"
 
 #include <QPointer>
@@ -40,5 +41,6 @@ private:
 
     const Runtime *myRuntime = nullptr;
     std::map<const Form *, QPointer<FormWindow>> myWindows;
+    HeldKeys myHeldKeys;
     int myDepth = 0; ///< acts that are running, one inside the other
 };

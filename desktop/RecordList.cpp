@@ -9,7 +9,6 @@
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
-#include <QTimer>
 
 #include <algorithm>
 
@@ -35,11 +34,12 @@ RecordList::RecordList(Acts &pActs, ListView &pList, QWidget &pParent)
     : QTableView(&pParent), ControlView(pActs, pList), myList(pList), myModel(pList) {
     setModel(&myModel);
     Prepare();
+    // Not at once: Qt is in the middle of changing its selection.
+    mySelectedByOthers.setSingleShot(true);
+    connect(&mySelectedByOthers, &QTimer::timeout, this, [this] { SelectedByOthers(); });
     connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
         if (!myIsShowing) {
-            // Not at once: Qt is in the middle of changing its selection.
-            QMetaObject::invokeMethod(
-                this, [this] { SelectedByOthers(); }, Qt::QueuedConnection);
+            mySelectedByOthers.start(0);
         }
     });
 }

@@ -5,6 +5,7 @@
 #include "desktop/RecordModel.h"
 
 #include <QTableView>
+#include <QTimer>
 
 class RecordList : public QTableView, public ControlView {
 public:
@@ -38,6 +39,7 @@ private:
 
     ListView &myList;
     RecordModel myModel;
+    QTimer mySelectedByOthers;
     bool myIsShowing = false;
     int myShownRows = 0;
     int myShownColumns = 0;

@@ -2,13 +2,6 @@
 
 #include "desktop/TextCodec.h"
 
-namespace {
-
-/// Of a longer cell this much is shown; no screen shows more, and measuring it takes time.
-constexpr int mostShown = 1000;
-
-} // namespace
-
 void RecordModel::Reset() {
     beginResetModel();
     myToldRows = myList.ListItems.Count();
@@ -40,5 +33,5 @@ QVariant RecordModel::headerData(int pSection, Qt::Orientation pOrientation, int
     if (!isThere || (pRole != Qt::DisplayRole && pRole != Qt::AccessibleTextRole)) {
         return {};
     }
-    return ToQtLine(myList.ColumnHeaders(pSection + 1).Text);
+    return ToQtLine(myList.ColumnHeaders(pSection + 1).Text, mostShown);
 }

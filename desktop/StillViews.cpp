@@ -14,7 +14,7 @@ LabelView::LabelView(Acts &pActs, const Label &pLabel, QWidget &pParent)
 }
 
 void LabelView::Show() {
-    setText(ToQtLine(myLabel.Caption()));
+    setText(ToQtLine(myLabel.Caption(), mostShown));
     setWordWrap(height() >= 2 * fontMetrics().lineSpacing());
     if (myLabel.IsLink()) {
         QPalette colours = palette();

@@ -10,6 +10,10 @@
 /// At most pMostUnits UTF-16 units of pText, never half a character.
 QString ToQt(std::string_view pText, int pMostUnits = std::numeric_limits<int>::max());
 
+/// Of a text that is only shown this much, in UTF-16 units, is handed to Qt: no screen shows more, and
+/// measuring a longer one is felt.
+inline constexpr int mostShown = 1000;
+
 std::string FromQt(const QString &pText);
 
 /// pText for a place of one line: line breaks are shown as blanks.

@@ -158,9 +158,8 @@ TEST_F(Fields, makeBlanksOfLineBreaksThatComeIn) {
 }
 
 TEST_F(Fields, keepWhatIsNotUtf8AndWhatIsLong) {
-    const std::string hostile("\xEF\xBB\xBF"
-                              "caf\xE9 \xFF\xC3 \xED\xA0\x80 \xF0\x9F\x98\x80 \0 end",
-                              31);
+    static constexpr char bytes[] = "\xEF\xBB\xBFx caf\xE9 \xFF\xC3 \xED\xA0\x80 \xF0\x9F\x98\x80 \0 end";
+    const std::string hostile(bytes, sizeof bytes - 1);
     name.Text(hostile);
     fruit.Text(hostile);
     Sync();

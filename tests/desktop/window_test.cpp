@@ -37,6 +37,7 @@ TEST_F(Records, arePickedByTheMouseWhateverElseIsHeld) {
     Click(area, QPoint(20, area.height() - 3));
     Click(area, QPoint(area.width() - 3, 5));
     EXPECT_EQ(acts, "2 2 2 3 ") << "empty space below and beside the rows";
+    EXPECT_EQ(Selected(table), std::vector{3});
 
     MouseDown(area, Row(0));
     QMouseEvent drag(QEvent::MouseMove, Row(2), area.mapToGlobal(Row(2)), Qt::NoButton, Qt::LeftButton, {});

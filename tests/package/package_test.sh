@@ -142,6 +142,8 @@ clean=(env -i PATH=/usr/bin:/bin LC_ALL=C.UTF-8 HOME="$scratch/home" DISPLAY=":$
     DBUS_SESSION_BUS_ADDRESS=disabled:)
 "${clean[@]}" HOME="$scratch" openbox 2>openbox.log &
 started+=($!)
+# A window that comes before the window manager is ready may never be shown.
+until "${clean[@]}" xprop -root _NET_SUPPORTING_WM_CHECK | grep -q 'window id'; do sleep 0.1; done
 
 # windows_of PID: the visible windows of the process; fails when there are none after half a minute. A search
 # of its own fails when any window goes away under it, as those of a starting window manager do.

@@ -46,6 +46,11 @@ def session(d, _share):
         desk.run("xdotool", *act.split())
     shows("Banana", "ana", "three overlapping keys")
 
+    d.key("ctrl+a", "a")
+    for act in ("keydown BackSpace", "keydown p", "keyup BackSpace", "keyup p"):
+        desk.run("xdotool", *act.split())
+    shows("Apple", "ple", "a key typed while the erasing one is still down")
+
     # A text that isn't listed keeps the focus, whatever road is tried; the click isn't delivered.
     d.key("ctrl+a")
     d.type("zz")
