@@ -12,6 +12,7 @@
 
 class Runtime;
 
+/// It needs the toolkit's application object to be there.
 class QtDesktop : public Desktop, public Acts {
 public:
     QtDesktop();

@@ -81,14 +81,14 @@ TEST_F(DatFile, ReadsWhatAFileHolds) {
         {0, "2,2\r\na,b\r\n", "1x2: a|b!"},                     {0, "32767,32767\r\n", "0x32767:!"},
         {0, "32768,2\r\na,b\r\n", "0x2:!"},                     {0, "1,32768\r\na\r\n", "0x0:"},
         {0, "-1,2\r\n", "0x0:"},                                {0, "1,-2\r\n", "0x0:"},
-        {0, "x,2\r\na,b\r\n", "0x2:!"},                          {0, "2\r\na,b\r\n", "0x0:"},
+        {0, "x,2\r\na,b\r\n", "0x2:!"},                         {0, "2\r\na,b\r\n", "0x0:"},
         {0, "1,2\na,b\n", "0x0:!"},                             {0, "0,2\r\n", "0x2:"},
         {0, "", "0x0:"},                                        {1, "a,b\rc,d\r", "2x2: a|b/c|d"},
         {1, "a , \"b\"\r\nc,d", "2x2: a|b/c|d"},                {1, "a,b\r\nc\r\nd,e\r\n", "1x2: a|b"},
         {1, "a,b\r\nc,d\r\n\r\ne,f\r\n", "2x2: a|b/c|d"},       {1, "a,b\r\nc,\r\n", "1x2: a|b"},
         {1, "a,b\nc,d", "1x4: a|b|c|d"},                        {1, "", "0x2:"},
         {2, "x\r\na,b\r\nc,d\r\n", "2x2: a|b/c|d"},             {2, "One,Two\r\n", "0x2:"},
-        {2, "", "0x2:"}};
+        {2, "", "0x2:"},                                        {0, "1 , 2\r\na,b\r\n", "1x2: a|b"}};
     // clang-format on
     for (const auto &[fmt, bytes, table] : cases) {
         EXPECT_EQ(InWords(Loaded(fmt, bytes)), table) << fmt << ": " << testing::PrintToString(bytes);

@@ -47,6 +47,10 @@ protected:
     /// Lets events run until pIsDone, or for two seconds.
     template <typename Condition> static bool Until(Condition pIsDone);
 
+    /// Has to be there before the desktop.
+    struct Toolkit {
+        Toolkit();
+    } toolkit;
     QtDesktop desktop;
     Runtime runtime;
     Form &form = runtime.NewForm("form");

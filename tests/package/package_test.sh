@@ -140,10 +140,15 @@ read -r display <display.fifo
 # Without a message bus of its own Qt would start one, which leaves files in the home folder.
 clean=(env -i PATH=/usr/bin:/bin LC_ALL=C.UTF-8 HOME="$scratch/home" DISPLAY=":$display" QT_QPA_PLATFORM=xcb
     DBUS_SESSION_BUS_ADDRESS=disabled:)
-"${clean[@]}" HOME="$scratch" openbox 2>openbox.log &
+"${clean[@]}" HOME="$scratch" openbox >openbox.log 2>&1 &
 started+=($!)
-# A window that comes before the window manager is ready may never be shown.
-until "${clean[@]}" xprop -root _NET_SUPPORTING_WM_CHECK | grep -q 'window id'; do sleep 0.1; done
+# A window shown in the very moment in which the window manager takes over may get lost.
+for ((try = 0; try < 100; ++try)); do
+    if "${clean[@]}" xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'; then
+        break
+    fi
+    sleep 0.1
+done
 
 # windows_of PID: the visible windows of the process; fails when there are none after half a minute. A search
 # of its own fails when any window goes away under it, as those of a starting window manager do.
