@@ -25,7 +25,10 @@ modMain::Positional modMain::ReadWords() {
     const std::string &command = myRuntime.Command();
     const int limit = argc(command);
     Positional words;
-    for (int i = 1; i <= limit; ++i) {
+    // What doesn't fit any more settles it. A shell can hand over thousands of words, and each one is a walk
+    // through the text.
+    const auto isSettled = [&] { return words.nArgs > static_cast<int>(words.args.size()); };
+    for (int i = 1; i <= limit && !isSettled(); ++i) {
         const std::string word = argv(command, i);
         const std::string lower = LCase(word);
         if (lower == "-t" || lower == "/t") {

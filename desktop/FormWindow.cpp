@@ -40,6 +40,7 @@ FormWindow::FormWindow(Acts &pActs, Form &pForm)
     SetFrame();
     AddViews();
     SetTabOrder();
+    ShowFocus();
     winId();
     windowHandle()->installEventFilter(&myGuard);
     if (myForm.Border() == Form::BorderStyle::FixedDialog) {
@@ -90,6 +91,11 @@ void FormWindow::SetTabOrder() const {
     if (!order.empty()) {
         order.front()->Widget().setFocus();
     }
+}
+
+void FormWindow::ShowFocus() {
+    // Enter presses what has the focus from the first moment on, so it has to be seen before any Tab.
+    setAttribute(Qt::WA_KeyboardFocusChange);
 }
 
 void FormWindow::Sync() {

@@ -42,6 +42,7 @@ private:
     void SetFrame();
     void AddViews();
     void SetTabOrder() const;
+    void ShowFocus();
     int MenuHeight(int pWidth) const;
     void Arrange();
     void ReportSize();

@@ -87,6 +87,11 @@ void ComboBox::UserSelects(int pSelStart, int pSelLength) {
     mySelLength = pSelLength;
 }
 
+void ComboBox::UserPicks(int pIndex) {
+    ListIndex(pIndex);
+    SelLength(Utf16Length(myText)); // The next letter typed is the first of another text.
+}
+
 bool ComboBox::TakeTyped() {
     return std::exchange(myWasTypedIn, false);
 }

@@ -58,7 +58,7 @@ public:
     void UserEdits(const std::string &pText, int pSelStart);
     void UserSelects(int pSelStart, int pSelLength);
     void UserReleasesKey(int pKeyCode, int pShift) { KeyUp.Raise(pKeyCode, pShift); }
-    void UserPicks(int pIndex) { ListIndex(pIndex); }
+    void UserPicks(int pIndex);
 
     /// Asks the client whether the focus may leave the box.
     bool MayLoseFocus() const;

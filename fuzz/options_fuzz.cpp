@@ -1,9 +1,9 @@
 /// Option strings, on a form that grows and shrinks: the first four bytes are the growth in width and height,
 /// the rest is the option string. The control goes where strtod says, or stays when its string is unfit;
 /// its neighbour goes its own way whatever the string is.
+#include "fuzz/FuzzSupport.h"
 #include "platform/Controls.h"
 #include "platform/Form.h"
-#include "tests/fuzz/FuzzSupport.h"
 #include "ui/clsLayout.h"
 
 #include <array>

@@ -1,6 +1,6 @@
 /// Runs a fuzz target once over every file of a folder: what was found or thought of before must stay mended,
 /// and needs no fuzzer for that.
-#include "tests/fuzz/FuzzSupport.h"
+#include "fuzz/FuzzSupport.h"
 
 #include <algorithm>
 #include <cstdio>

@@ -1,7 +1,7 @@
 /// The command text: split into words it is what a second reading of the rules says, and the words that a
 /// shell hands over, a NUL between them here, come out again unless one holds a quotation mark.
 #include "app/modArgcArgv.h"
-#include "tests/fuzz/FuzzSupport.h"
+#include "fuzz/FuzzSupport.h"
 
 #include <algorithm>
 

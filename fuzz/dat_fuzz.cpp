@@ -1,6 +1,6 @@
 /// The .dat reader on any file: what it takes in is what the file's lines say, and the rest is empty.
 #include "data/modGetWords.h"
-#include "tests/fuzz/FuzzSupport.h"
+#include "fuzz/FuzzSupport.h"
 
 #include <charconv>
 

@@ -1,4 +1,4 @@
-#include "tests/fuzz/FuzzSupport.h"
+#include "fuzz/FuzzSupport.h"
 
 #include <array>
 #include <cmath>

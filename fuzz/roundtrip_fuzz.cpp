@@ -1,7 +1,7 @@
 /// What was loaded from any file and is saved in any of the three forms comes back, all of it: loading has
 /// dropped already what the forms can't keep (blanks around a cell, a CR). The first byte chooses the form
 /// that the rest is loaded in.
-#include "tests/fuzz/FuzzSupport.h"
+#include "fuzz/FuzzSupport.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 /// The CSV reader, with and without a header line, on any file: the table is made of the lines up to the
 /// first ragged one, and the .dat reader sees the same rows when it is told their number.
 #include "data/modGetWords.h"
-#include "tests/fuzz/FuzzSupport.h"
+#include "fuzz/FuzzSupport.h"
 
 namespace {
 

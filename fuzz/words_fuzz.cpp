@@ -1,7 +1,7 @@
 /// The word splitter on any line, against a reading of the same rules that looks ahead, where the splitter
 /// itself goes from character to character.
 #include "data/modGetWords.h"
-#include "tests/fuzz/FuzzSupport.h"
+#include "fuzz/FuzzSupport.h"
 
 namespace {
 
