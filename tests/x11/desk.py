@@ -35,7 +35,7 @@ class Desk:
     """The screen, and what is on it."""
 
     def __init__(self, program):
-        self.program = program
+        self.program = os.path.abspath(program)
         self.folder = tempfile.mkdtemp(prefix="norvo-session-")
         self.children = []
         read_end, write_end = os.pipe()
@@ -205,7 +205,7 @@ def main(session):
         os.execvp("dbus-run-session", ["dbus-run-session", "--", sys.executable, *sys.argv])
     desk = Desk(sys.argv[1])
     try:
-        session(desk, sys.argv[2])
+        session(desk, os.path.abspath(sys.argv[2]))
         print("passed")
     except BaseException:
         traceback.print_exc()
