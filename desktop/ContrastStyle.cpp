@@ -28,6 +28,15 @@ void DrawFrame(const QStyleOption &pOption, QPainter &pPainter) {
 
 } // namespace
 
+void ContrastStyle::polish(QPalette &pPalette) {
+    QProxyStyle::polish(pPalette);
+    if (IsBlack(pPalette)) {
+        for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+            pPalette.setColor(QPalette::Disabled, role, Qt::gray);
+        }
+    }
+}
+
 void ContrastStyle::drawPrimitive(PrimitiveElement pElement, const QStyleOption *pOption, QPainter *pPainter,
                                   const QWidget *pWidget) const {
     QProxyStyle::drawPrimitive(pElement, pOption, pPainter, pWidget);

@@ -7,6 +7,9 @@ class ContrastStyle : public QProxyStyle {
 public:
     using QProxyStyle::QProxyStyle;
 
+    using QProxyStyle::polish;
+    /// Sees to it that what is off can still be read where the desktop's colours make it black on black.
+    void polish(QPalette &pPalette) override;
     void drawPrimitive(PrimitiveElement pElement, const QStyleOption *pOption, QPainter *pPainter,
                        const QWidget *pWidget) const override;
     void drawControl(ControlElement pElement, const QStyleOption *pOption, QPainter *pPainter,
