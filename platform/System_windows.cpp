@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <new>
 
 #ifndef NOMINMAX
 #define NOMINMAX
@@ -109,6 +110,31 @@ bool Flush(const File &pFile) {
     return error == ERROR_INVALID_FUNCTION || error == ERROR_NOT_SUPPORTED;
 }
 
+/// All bytes of an open file that has pSize of them, or had when it was asked. Throws std::bad_alloc for a
+/// file that memory can't hold.
+os::ReadResult ReadAll(HANDLE pHandle, std::size_t pSize) {
+    os::ReadResult result;
+    // One byte more than the file has, so that the read that finds its end needs no further room.
+    result.bytes.resize(pSize + 1);
+    std::size_t filled = 0;
+    for (;;) {
+        if (filled == result.bytes.size()) {
+            result.bytes.resize(result.bytes.size() * 2); // It grew while it was read.
+        }
+        const DWORD room = static_cast<DWORD>(std::min(result.bytes.size() - filled, mostBytesPerCall));
+        DWORD count = 0;
+        if (::ReadFile(pHandle, result.bytes.data() + filled, room, &count, nullptr) == 0) {
+            return {{}, LastReason()};
+        }
+        if (count == 0) {
+            break;
+        }
+        filled += count;
+    }
+    result.bytes.resize(filled);
+    return result;
+}
+
 } // namespace
 
 namespace os {
@@ -150,26 +176,11 @@ ReadResult ReadFile(const std::string &pPath) {
     if (GetFileSizeEx(file.Handle(), &size) == 0) {
         return {{}, LastReason()};
     }
-    ReadResult result;
-    // One byte more than the file has, so that the read that finds its end needs no further room.
-    result.bytes.resize(static_cast<std::size_t>(size.QuadPart) + 1);
-    std::size_t filled = 0;
-    for (;;) {
-        if (filled == result.bytes.size()) {
-            result.bytes.resize(result.bytes.size() * 2); // It grew while it was read.
-        }
-        const DWORD room = static_cast<DWORD>(std::min(result.bytes.size() - filled, mostBytesPerCall));
-        DWORD count = 0;
-        if (::ReadFile(file.Handle(), result.bytes.data() + filled, room, &count, nullptr) == 0) {
-            return {{}, LastReason()};
-        }
-        if (count == 0) {
-            break;
-        }
-        filled += count;
+    try {
+        return ReadAll(file.Handle(), static_cast<std::size_t>(size.QuadPart));
+    } catch (const std::bad_alloc &) {
+        return {{}, Reason(ERROR_NOT_ENOUGH_MEMORY)};
     }
-    result.bytes.resize(filled);
-    return result;
 }
 
 WriteResult WriteFile(const std::string &pPath, std::string_view pBytes) {
