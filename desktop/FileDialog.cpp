@@ -69,14 +69,19 @@ void FileDialog::FitColumns() {
 
 void FileDialog::accept() {
     const QString name = myNameEdit == nullptr ? QString() : myNameEdit->text();
-    const QString path = QDir::isAbsolutePath(name) ? name : directory().filePath(name);
-    if (!name.isEmpty() && QFileInfo(path).isDir()) {
-        setDirectory(path);
-        myNameEdit->clear(); // Left there, it would be looked for once more, inside itself.
+    if (name.isEmpty()) {
+        QFileDialog::accept();
         return;
     }
-    if (!name.contains(u'"')) {
-        QFileDialog::accept();
+    // What stands in the field is the name. Qt would rather take what is marked in its list, which may be the
+    // preset file still, and takes a name with a quote for a list of names.
+    const bool isInHome = name.startsWith(QStringLiteral("~/"));
+    const QString path = isInHome                     ? QDir::homePath() + name.mid(1)
+                         : QDir::isAbsolutePath(name) ? name
+                                                      : directory().filePath(name);
+    if (QFileInfo(path).isDir()) {
+        setDirectory(path);
+        myNameEdit->clear(); // Left there, it would be looked for once more, inside itself.
         return;
     }
     myChosen = path;

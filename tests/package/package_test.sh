@@ -6,10 +6,9 @@ set -euo pipefail
 source=$(cd "$1" && pwd)
 scratch=$2
 
-failures=0
 fail() {
     echo "FAILED: $*" >&2
-    failures=$((failures + 1))
+    exit 1
 }
 step() { echo "== $*"; }
 # check WHAT COMMAND...: the command has to succeed. What it says is shown either way.
@@ -20,15 +19,10 @@ check() {
     "$@" || fail "$what"
 }
 
-missing=()
-for tool in cmake cpack ninja xz dpkg-deb dpkg-shlibdeps dpkg-parsechangelog lintian desktop-file-validate \
-    appstreamcli mandoc tidy file python3 Xvfb openbox xdotool xprop; do
-    command -v "$tool" >/dev/null || missing+=("$tool")
+for tool in cmake cpack ninja xz dpkg-deb dpkg-shlibdeps lintian desktop-file-validate appstreamcli mandoc \
+    python3 Xvfb openbox xdotool xprop; do
+    command -v "$tool" >/dev/null || fail "the package can't be tested, $tool is missing"
 done
-if [ ${#missing[@]} -gt 0 ]; then
-    echo "FAILED: the package can't be tested, these tools are missing: ${missing[*]}" >&2
-    exit 1
-fi
 
 rm -rf "$scratch"
 mkdir -p "$scratch"
@@ -67,15 +61,7 @@ step "release build and package"
 packages=(packages/*.deb)
 deb=$scratch/${packages[0]}
 
-step "control fields"
-dpkg-deb -f "$deb"
-depends=$(dpkg-deb -f "$deb" Depends)
-for package in libc6 libqt6widgets6 fonts-liberation; do
-    [[ ", $depends" == *", $package"* ]] || fail "the package does not depend on $package"
-done
-
-step "lintian"
-lintian --allow-root --fail-on error,warning "$deb" || fail "lintian has something to say"
+check "lintian" lintian --allow-root --fail-on error,warning "$deb"
 
 # --- the installed tree ---
 
@@ -92,49 +78,22 @@ for path in usr/lib/NorvoEditDat/{NorvoEditDat.dat,timezones.dat,countries.txt,a
 done
 [ "$(readlink "$root/usr/bin/NorvoEditDat")" = ../lib/NorvoEditDat/NorvoEditDat ] ||
     fail "the link in bin is not the relative one to the program"
-file -b "$program_folder/NorvoEditDat" | grep -q 'ELF.*pie.*stripped' || fail "the program is not stripped"
 if grep -q -a -e "$scratch" -e "$source" "$program_folder/NorvoEditDat"; then
     fail "the program names a folder of the machine it was built on"
 fi
-for table in NorvoEditDat.dat timezones.dat; do
-    cmp "$source/share/$table" "$program_folder/$table" || fail "$table is not the one of the sources"
-done
 
 check "desktop entry" desktop-file-validate "$root/usr/share/applications/$id.desktop"
 check "metainfo" appstreamcli validate --no-net "$root/usr/share/metainfo/$id.metainfo.xml"
-check "menu entry and metainfo together" appstreamcli validate-tree --no-net "$root"
-step "manual page"
 gunzip -c "$root/usr/share/man/man1/NorvoEditDat.1.gz" >NorvoEditDat.1
-mandoc -Tlint -W warning NorvoEditDat.1 || fail "manual page"
-
-step "help page"
-page=$program_folder/Help/NorvoEditDat.html
-tidy -quiet -errors "$page" || fail "the help page is not valid HTML"
-if grep -n -i -E '<script|<link|(src|href)="(https?:|//|/)|@import|url\(' "$page"; then
-    fail "the help page fetches from outside, or runs a script"
-fi
-for picture in $(grep -o 'src="[^"]*"' "$page" | cut -d'"' -f2); do
-    [ -s "$program_folder/Help/$picture" ] || fail "the help page shows $picture, which is not there"
-done
-for anchor in $(grep -o 'href="#[^"]*"' "$page" | cut -d'#' -f2 | tr -d '"' | sort -u); do
-    grep -q "id=\"$anchor\"" "$page" || fail "the help page links to #$anchor, which is not there"
-done
-
+check "manual page" mandoc -Tlint -W warning NorvoEditDat.1
 check "messages in the help page" "$source/tests/package/help_messages.py" "$source"
-
-step "version"
-version=$(dpkg-deb -f "$deb" Version)
-[ "$(dpkg-parsechangelog -l "$source/packaging/changelog" -S Version)" = "$version" ] ||
-    fail "the newest entry of packaging/changelog is not about $version"
-grep -m1 '<release ' "$root/usr/share/metainfo/$id.metainfo.xml" | grep -q "version=\"$version\"" ||
-    fail "the newest release in the metainfo is not $version"
 
 # --- the program, started from its link ---
 
 step "program"
 mkdir -m 700 home
 mkfifo display.fifo
-Xvfb -displayfd 3 -screen 0 1024x768x24 -nolisten tcp 3>display.fifo 2>xvfb.log &
+Xvfb -displayfd 3 -screen 0 1024x768x24 -nolisten tcp -noreset 3>display.fifo 2>xvfb.log &
 started+=($!)
 read -r display <display.fifo
 # Without a message bus of its own Qt would start one, which leaves files in the home folder.
@@ -150,54 +109,30 @@ for ((try = 0; try < 100; ++try)); do
     sleep 0.1
 done
 
-# windows_of PID: the visible windows of the process; fails when there are none after half a minute. A search
-# of its own fails when any window goes away under it, as those of a starting window manager do.
-windows_of() {
-    local try
-    for ((try = 0; try < 60; ++try)); do
-        if "${clean[@]}" xdotool search --onlyvisible --all --pid "$1" --name '.' 2>/dev/null; then
-            return 0
-        fi
-        kill -0 "$1" 2>/dev/null || return 1
-        sleep 0.5
-    done
-    return 1
-}
-
-# shows TITLE WORD...: started with the words, the program shows one window of that title, which is no
-# message box, and goes on running.
-shows() {
-    local title=$1 pid windows
-    shift
-    (cd home && exec "${clean[@]}" "$root/usr/bin/NorvoEditDat" "$@" 2>../program.log) &
-    pid=$!
-    started+=("$pid")
-    if ! windows=$(windows_of "$pid"); then
-        cat program.log
-        fail "the program shows no window"
-        return
-    fi
-    # Nothing but the window itself: a message box would be a second one, or bear the same title.
-    if [ "$(wc -l <<<"$windows")" -ne 1 ]; then
-        fail "the program shows more than one window"
-    fi
-    local window=${windows%%$'\n'*}
-    "${clean[@]}" xprop -id "$window" WM_NAME _NET_WM_WINDOW_TYPE WM_CLASS >properties
-    cat properties
-    grep -qF "\"$title\"" properties || fail "the window's title is not \"$title\""
-    grep -q '_NET_WM_WINDOW_TYPE_NORMAL' properties || fail "the window is no main window"
-    if grep -q '_NET_WM_WINDOW_TYPE_DIALOG' properties; then
-        fail "what the program shows is a message box"
-    fi
-    kill -0 "$pid" 2>/dev/null || fail "the program has ended by itself"
-    kill "$pid"
-    wait "$pid" 2>/dev/null || true
-}
-
-shows "Norvo Data File Editor"
 # The title is the word's only once the specification has been read and the form built from it.
-shows "Time zones" /t "Time zones" "$program_folder/timezones.dat"
+title="Time zones"
+(cd home && exec "${clean[@]}" "$root/usr/bin/NorvoEditDat" /t "$title" "$program_folder/timezones.dat" \
+    2>../program.log) &
+pid=$!
+started+=("$pid")
+# A search of its own fails when any window goes away under it, as those of a starting window manager do.
+for ((try = 0; try < 60; ++try)); do
+    windows=$("${clean[@]}" xdotool search --onlyvisible --all --pid "$pid" --name '.' 2>/dev/null) && break
+    sleep 0.5
+done
+if [ -z "$windows" ]; then
+    cat program.log
+    fail "the program shows no window"
+fi
+# Nothing but the window itself: a message box would be a second one, or bear the same title.
+[ "$(wc -l <<<"$windows")" -eq 1 ] || fail "the program shows more than one window"
+"${clean[@]}" xprop -id "$windows" WM_NAME _NET_WM_WINDOW_TYPE >properties
+cat properties
+grep -qF "\"$title\"" properties || fail "the window's title is not \"$title\""
+if grep -q '_NET_WM_WINDOW_TYPE_DIALOG' properties; then
+    fail "what the program shows is a message box"
+fi
+kill -0 "$pid" || fail "the program has ended by itself"
 [ -z "$(find home -type f)" ] || fail "the program has left files behind: $(find home -type f)"
 
-[ "$failures" -eq 0 ] || exit 1
 echo "The package is well made: $(basename "$deb")"

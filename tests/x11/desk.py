@@ -39,7 +39,8 @@ class Desk:
         self.folder = tempfile.mkdtemp(prefix="norvo-session-")
         self.children = []
         read_end, write_end = os.pipe()
-        self._start("Xvfb", "-displayfd", str(write_end), "-screen", "0", "1280x900x24", "-nolisten", "tcp",
+        # Without -noreset the server would start anew whenever its only client, a poll of ours, goes.
+        self._start("Xvfb", "-displayfd", str(write_end), "-screen", "0", "1280x900x24", "-nolisten", "tcp", "-noreset",
                     pass_fds=[write_end])
         os.close(write_end)
         with os.fdopen(read_end) as pipe:
