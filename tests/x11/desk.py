@@ -67,7 +67,7 @@ class Desk:
         # Its home is empty, so that no setting of the machine's user changes what is tested.
         values = dict(os.environ, QT_QPA_PLATFORM="xcb", QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1",
                       HOME=self.folder, XDG_CONFIG_HOME=os.path.join(self.folder, "config"),
-                      XDG_RUNTIME_DIR=self.folder, **environment)
+                      **environment)
         self.editor = subprocess.Popen([self.program, *words], stderr=log, stdout=log, env=values,
                                        cwd=self.folder)
         self.children.append(self.editor)
@@ -203,6 +203,8 @@ def main(session):
     """Runs session(desk, share_folder) on a message bus of its own: script PROGRAM SHARE_FOLDER"""
     if os.environ.get("NORVO_SESSION_BUS") != "own":
         os.environ["NORVO_SESSION_BUS"] = "own"
+        # The accessibility bus has its socket there; two sessions at a time must not share one.
+        os.environ["XDG_RUNTIME_DIR"] = tempfile.mkdtemp(prefix="norvo-bus-")
         os.execvp("dbus-run-session", ["dbus-run-session", "--", sys.executable, *sys.argv])
     desk = Desk(sys.argv[1])
     try:
@@ -218,3 +220,4 @@ def main(session):
         sys.exit(1)
     finally:
         desk.close()
+        shutil.rmtree(os.environ["XDG_RUNTIME_DIR"], ignore_errors=True)
