@@ -40,7 +40,6 @@ FormWindow::FormWindow(Acts &pActs, Form &pForm)
     SetFrame();
     AddViews();
     SetTabOrder();
-    ShowFocus();
     winId();
     windowHandle()->installEventFilter(&myGuard);
     if (myForm.Border() == Form::BorderStyle::FixedDialog) {
@@ -96,6 +95,9 @@ void FormWindow::SetTabOrder() const {
 void FormWindow::ShowFocus() {
     // Enter presses what has the focus from the first moment on, so it has to be seen before any Tab.
     setAttribute(Qt::WA_KeyboardFocusChange);
+    if (focusWidget() != nullptr) {
+        focusWidget()->update();
+    }
 }
 
 void FormWindow::Sync() {
@@ -213,6 +215,9 @@ void FormWindow::changeEvent(QEvent *pEvent) {
 
 bool FormWindow::event(QEvent *pEvent) {
     const bool isTaken = QWidget::event(pEvent);
+    if (pEvent->type() == QEvent::WindowActivate) {
+        ShowFocus();
+    }
     // The menu bar asks for another height, as with another font of the system.
     if (pEvent->type() == QEvent::LayoutRequest && myIsReady && myBar != nullptr &&
         myBar->height() != MenuHeight(width())) {
