@@ -38,6 +38,7 @@ class Desk:
         self.program = os.path.abspath(program)
         self.folder = tempfile.mkdtemp(prefix="norvo-session-")
         self.children = []
+        self._opener()
         read_end, write_end = os.pipe()
         # Without -noreset the server would start anew whenever its only client, a poll of ours, goes.
         self._start("Xvfb", "-displayfd", str(write_end), "-screen", "0", "1280x900x24", "-nolisten", "tcp", "-noreset",
@@ -52,6 +53,24 @@ class Desk:
         child = subprocess.Popen(words, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, **options)
         self.children.append(child)
         return child
+
+    def _opener(self):
+        # Stands in for the desktop's own, which would start a browser that outlives the session.
+        folder = os.path.join(self.folder, "opener")
+        os.mkdir(folder)
+        path = os.path.join(folder, "xdg-open")
+        with open(path, "w", encoding="utf-8") as file:
+            file.write('#!/bin/sh\necho "$1" >> "%s"\n' % os.path.join(self.folder, "opened"))
+        os.chmod(path, 0o755)
+        os.environ["PATH"] = folder + os.pathsep + os.environ["PATH"]
+
+    def opened(self):
+        """What the editor has handed to the desktop to open, in order."""
+        try:
+            with open(os.path.join(self.folder, "opened"), encoding="utf-8") as file:
+                return file.read().splitlines()
+        except FileNotFoundError:
+            return []
 
     def _window_manager_settings(self):
         # Its own settings bind keys away from the editor; all it is to know is how a window is closed.
@@ -77,7 +96,7 @@ class Desk:
             if child.poll() is None:
                 child.terminate()
             child.wait()
-        shutil.rmtree(self.folder)
+        shutil.rmtree(self.folder, ignore_errors=True)
 
     def complaints(self):
         """What the editor has said on its standard error."""

@@ -2,6 +2,7 @@
 of the controls, the list's headings and cells, the texts of the boxes."""
 
 import os
+import pathlib
 
 import desk
 
@@ -72,7 +73,10 @@ def session(d, share):
     d.key("Return")
     d.focus(TITLE)
     desk.until(lambda: os.path.exists(saved), "the saved file")
-    d.key("F1", "alt+h")
+    d.key("F1")
+    page = os.path.join(os.path.dirname(d.program), "Help", "NorvoEditDat.html")
+    d.expect(d.opened, [pathlib.Path(page).as_uri()], "the help page handed to the desktop")
+    d.key("alt+h")
     d.type("a")
     d.focus("About " + TITLE)
     texts = {one.get_name() for one in d.walk(d.window("About " + TITLE))}
