@@ -41,32 +41,30 @@ void clsDatFile::Cols(std::int16_t n) {
     myCols = n;
 }
 
-bool clsDatFile::IsValid(int pRow, int pCol) const {
-    return pRow >= 0 && pRow < myRows && pCol >= 0 && pCol < myCols;
+bool clsDatFile::IsStored(int pRow, int pCol) const {
+    return pRow >= 0 && pRow < myRows && std::cmp_less(pRow, myData.size()) && pCol >= 0 && pCol < myCols &&
+           pCol < myStoredCols;
 }
 
-const std::string *clsDatFile::Cell(int pRow, int pCol) const {
-    if (!IsValid(pRow, pCol) || std::cmp_greater_equal(pRow, myData.size())) {
-        return nullptr;
+void clsDatFile::Data(std::int16_t pRow, std::int16_t pCol, const std::string &pValue) {
+    if (IsStored(pRow, pCol)) {
+        myData[static_cast<std::size_t>(pRow)].Set(pCol + 1, pValue);
     }
-    const std::vector<std::string> &row = myData[static_cast<std::size_t>(pRow)];
-    return std::cmp_less(pCol, row.size()) ? &row[static_cast<std::size_t>(pCol)] : nullptr;
-}
-
-void clsDatFile::Data(std::int16_t pRow, std::int16_t pCol, std::string pValue) {
-    if (!IsValid(pRow, pCol) || std::cmp_greater_equal(pRow, myData.size()) || pCol >= myStoredCols) {
-        return;
-    }
-    std::vector<std::string> &row = myData[static_cast<std::size_t>(pRow)];
-    if (std::cmp_greater_equal(pCol, row.size())) {
-        row.resize(static_cast<std::size_t>(pCol) + 1);
-    }
-    row[static_cast<std::size_t>(pCol)] = std::move(pValue);
 }
 
 std::string clsDatFile::Data(std::int16_t pRow, std::int16_t pCol) const {
-    const std::string *cell = Cell(pRow, pCol);
-    return cell == nullptr ? std::string() : *cell;
+    return IsStored(pRow, pCol) ? std::string(myData[static_cast<std::size_t>(pRow)](pCol + 1))
+                                : std::string();
+}
+
+void clsDatFile::Row(std::int16_t pRow, TextRow pCells) {
+    if (IsStored(pRow, 0)) {
+        myData[static_cast<std::size_t>(pRow)] = std::move(pCells);
+    }
+}
+
+TextRow clsDatFile::Row(std::int16_t pRow) const {
+    return IsStored(pRow, 0) ? myData[static_cast<std::size_t>(pRow)] : TextRow();
 }
 
 std::vector<std::string> clsDatFile::Col(std::int16_t x) const {
@@ -81,11 +79,9 @@ void clsDatFile::MoveRowUp(std::int16_t pRow) {
     if (pRow < 1 || pRow >= myRows) {
         return;
     }
-    const auto above = static_cast<std::int16_t>(pRow - 1);
-    for (std::int16_t col = 0; col < myCols; ++col) {
-        std::string kept = Data(above, col);
-        Data(above, col, Data(pRow, col));
-        Data(pRow, col, std::move(kept));
+    const auto row = static_cast<std::size_t>(pRow);
+    if (row < myData.size()) {
+        std::swap(myData[row - 1], myData[row]);
     }
 }
 
@@ -148,7 +144,7 @@ bool clsDatFile::TakeFaultOf(const TextInput &pFile) {
     return true;
 }
 
-void clsDatFile::EmptyTable(std::size_t pCols) {
+void clsDatFile::EmptyTable(int pCols) {
     myRows = 0;
     myCols = static_cast<std::int16_t>(pCols);
     Clear();

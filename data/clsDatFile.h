@@ -1,6 +1,8 @@
 #pragma once
 /// A table of strings in memory with its file name and format, and the only way in which a table file is read
 /// or written. A fault of a file is left to be read here; saying it to the user is the caller's.
+#include "platform/TextRow.h"
+
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -51,8 +53,13 @@ public:
     std::int16_t Cols() const { return myCols; }
 
     /// A cell, row and column from 0. One that is not valid or has no storage reads empty and stores nothing.
-    void Data(std::int16_t pRow, std::int16_t pCol, std::string pValue);
+    void Data(std::int16_t pRow, std::int16_t pCol, const std::string &pValue);
     std::string Data(std::int16_t pRow, std::int16_t pCol) const;
+
+    /// All cells of a row (from 0) at once, column c at place c + 1; those at the end that are empty may be
+    /// missing. A row that is not valid or has no storage reads empty and stores nothing.
+    void Row(std::int16_t pRow, TextRow pCells);
+    TextRow Row(std::int16_t pRow) const;
 
     /// Column x from row 0 to the last; all empty when x is no column.
     std::vector<std::string> Col(std::int16_t x) const;
@@ -77,27 +84,23 @@ private:
     void LoadCsv(bool pHasHeaders);
     void SaveDat();
     void SaveCsv(bool pHasHeaders);
-    static std::string Quote(std::string_view pField);
+    /// Adds pField to pLine in the form that it has on disk.
+    static void Quote(std::string &pLine, std::string_view pField);
 
     void StopWithoutFileName() const;
     bool TakeFaultOf(const TextInput &pFile);
     void TakeSizeFrom(TextInput &pFile);
-    /// The words of the next line; how the readers see every row.
-    static std::vector<std::string> NextRow(TextInput &pFile);
-    void StoreRow(int pRow, std::vector<std::string> pWords);
-    /// pFirst and the rows of the lines that follow, up to the first ragged one or to one row more than a
-    /// table can hold.
-    static std::vector<std::vector<std::string>> RowsFrom(std::vector<std::string> pFirst, TextInput &pFile);
-    void EmptyTable(std::size_t pCols);
+    void TakeAnnouncedRowsFrom(TextInput &pFile);
+    void TakeRowsUpToARaggedOne(TextInput &pFile);
+    void EmptyTable(int pCols);
     void Refuse(Fault::Kind pKind, const std::string &pText);
 
-    static void PrintRow(TextOutput &pFile, const std::vector<std::string> &pCells);
-    std::vector<std::string> RowCells(std::int16_t pRow) const;
+    /// pLine is room for the line, which goes from row to row.
+    void PrintRow(TextOutput &pFile, const TextRow &pCells, std::string &pLine) const;
     void PrintRows(TextOutput &pFile) const;
     void Finish(TextOutput &pFile);
 
-    bool IsValid(int pRow, int pCol) const;
-    const std::string *Cell(int pRow, int pCol) const;
+    bool IsStored(int pRow, int pCol) const;
 
     const Runtime &myRuntime;
     std::string myFn;
@@ -105,9 +108,9 @@ private:
     std::int16_t myRows = 0;
     std::int16_t myCols = 0;
     std::vector<std::string> myHeaders;
-    /// The storage: one entry for each of its rows, which holds cells only as far as they were written, so
-    /// that a large announced size costs nothing. Its width is myStoredCols.
-    std::vector<std::vector<std::string>> myData;
+    /// The storage: an entry for each of its rows, with cells only as far as they were written, so that a
+    /// large announced size costs nothing. Its width is myStoredCols.
+    std::vector<TextRow> myData;
     std::int16_t myStoredCols = 0;
     Fault myFault;
 };

@@ -7,13 +7,10 @@
 #include "platform/Numbers.h"
 
 #include <algorithm>
-#include <iterator>
 #include <optional>
 #include <utility>
 
 namespace {
-
-using modGetWords::GetWords;
 
 /// A number of rows from here on says nothing to a reader. It may have hundreds of digits, or be an infinity.
 constexpr double mostShownRows = 1e9;
@@ -23,25 +20,11 @@ double SizeItem(std::string_view pItem) {
     return WholeNumber(pItem).value_or(0);
 }
 
-std::size_t WordCount(const std::vector<std::string> &pWords) {
-    return pWords.size() - 1;
-}
-
 } // namespace
-
-std::vector<std::string> clsDatFile::NextRow(TextInput &pFile) {
-    return GetWords(pFile.LineInput());
-}
-
-void clsDatFile::StoreRow(int pRow, std::vector<std::string> pWords) {
-    std::vector<std::string> &row = myData[static_cast<std::size_t>(pRow)];
-    row.assign(std::make_move_iterator(pWords.begin() + 1), std::make_move_iterator(pWords.end()));
-}
 
 void clsDatFile::TakeSizeFrom(TextInput &pFile) {
     const std::optional<std::string_view> rowsItem = pFile.InputItem();
     const std::optional<std::string_view> colsItem = pFile.InputItem();
-    pFile.LineInput(); // Whatever else the first line holds.
     const std::optional<std::int16_t> fittingCols = colsItem ? Integer16(SizeItem(*colsItem)) : std::nullopt;
     if (!rowsItem || !fittingCols || *fittingCols < 0) {
         EmptyTable(0);
@@ -50,7 +33,7 @@ void clsDatFile::TakeSizeFrom(TextInput &pFile) {
     const double rows = SizeItem(*rowsItem);
     const std::optional<std::int16_t> fittingRows = Integer16(rows);
     if (!fittingRows && rows > mostRows) {
-        EmptyTable(static_cast<std::size_t>(*fittingCols));
+        EmptyTable(*fittingCols);
         const std::string announced = rows < mostShownRows ? FormatWhole(rows) : "far too many";
         Refuse(Fault::Kind::WrongSize, "announces " + announced + " records. A table holds at most " +
                                            std::to_string(mostRows) + ", so none were read.");
@@ -72,12 +55,15 @@ void clsDatFile::TakeSizeFrom(TextInput &pFile) {
 void clsDatFile::LoadDat() {
     StopWithoutFileName();
     TextInput file(myFn);
-    if (TakeFaultOf(file)) {
-        return;
-    }
     TakeSizeFrom(file);
+    file.LineInput(); // Whatever else the first line holds.
+    TakeAnnouncedRowsFrom(file);
+    TakeFaultOf(file);
+}
+
+void clsDatFile::TakeAnnouncedRowsFrom(TextInput &pFile) {
     for (std::int16_t row = 0; row < myRows; ++row) {
-        if (file.AtEnd()) {
+        if (pFile.AtEnd()) {
             Refuse(Fault::Kind::WrongSize, "is too short. Its first line announces " +
                                                std::to_string(myRows) + " records, but it holds only " +
                                                std::to_string(row) + ".");
@@ -85,60 +71,58 @@ void clsDatFile::LoadDat() {
             myData.resize(static_cast<std::size_t>(row));
             return;
         }
-        std::vector<std::string> words = NextRow(file);
-        if (WordCount(words) != static_cast<std::size_t>(myCols)) {
+        TextRow words = modGetWords::GetWords(pFile.LineInput());
+        if (words.Count() != myCols) {
             return; // The rows from here on stay empty, and myRows stays as announced.
         }
-        StoreRow(row, std::move(words));
+        myData[static_cast<std::size_t>(row)] = std::move(words);
     }
 }
 
-std::vector<std::vector<std::string>> clsDatFile::RowsFrom(std::vector<std::string> pFirst,
-                                                           TextInput &pFile) {
-    std::vector<std::vector<std::string>> rows;
-    rows.push_back(std::move(pFirst));
-    while (!pFile.AtEnd() && std::cmp_less_equal(rows.size(), mostRows)) {
-        std::vector<std::string> words = NextRow(pFile);
-        if (words.size() != rows.front().size()) {
+void clsDatFile::TakeRowsUpToARaggedOne(TextInput &pFile) {
+    const int cols = myData.front().Count();
+    while (!pFile.AtEnd() && std::cmp_less_equal(myData.size(), mostRows)) {
+        TextRow words = modGetWords::GetWords(pFile.LineInput());
+        if (words.Count() != cols) {
             break; // The table ends before this line.
         }
-        rows.push_back(std::move(words));
+        myData.push_back(std::move(words));
     }
-    return rows;
 }
 
 void clsDatFile::LoadCsv(bool pHasHeaders) {
     StopWithoutFileName();
     TextInput file(myFn);
-    if (TakeFaultOf(file)) {
-        return;
-    }
     if (pHasHeaders) {
         file.LineInput();
     }
     if (file.AtEnd()) {
-        EmptyTable(std::min(myHeaders.size(), modGetWords::mostWords));
+        EmptyTable(static_cast<int>(std::min<std::size_t>(myHeaders.size(), modGetWords::mostWords)));
+        TakeFaultOf(file);
         return;
     }
-    std::vector<std::string> first = NextRow(file);
-    const std::size_t cols = WordCount(first);
-    if (cols > modGetWords::mostWords) {
+    TextRow first = modGetWords::GetWords(file.LineInput());
+    if (TakeFaultOf(file)) {
+        return;
+    }
+    if (first.Count() > modGetWords::mostWords) {
         EmptyTable(0);
         Refuse(Fault::Kind::NotRead,
                "has too many columns. A table holds at most " + std::to_string(modGetWords::mostWords) + ".");
         return;
     }
-    Cols(static_cast<std::int16_t>(cols));
-    std::vector<std::vector<std::string>> rows = RowsFrom(std::move(first), file);
-    if (std::cmp_greater(rows.size(), mostRows)) {
+    Cols(static_cast<std::int16_t>(first.Count()));
+    myStoredCols = myCols;
+    myData.assign(1, std::move(first));
+    TakeRowsUpToARaggedOne(file);
+    if (TakeFaultOf(file)) {
+        return;
+    }
+    if (std::cmp_greater(myData.size(), mostRows)) {
         EmptyTable(0);
         Refuse(Fault::Kind::NotRead, "has too many records. A table holds at most " +
                                          std::to_string(mostRows) + ", so none were read.");
         return;
     }
-    Rows(static_cast<std::int16_t>(rows.size()));
-    Clear();
-    for (int row = 0; row < myRows; ++row) {
-        StoreRow(row, std::move(rows[static_cast<std::size_t>(row)]));
-    }
+    Rows(static_cast<std::int16_t>(myData.size()));
 }

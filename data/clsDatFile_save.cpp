@@ -4,35 +4,30 @@
 #include "platform/Files.h"
 #include "platform/Numbers.h"
 
-std::string clsDatFile::Quote(std::string_view pField) {
-    std::string quoted = "\"";
-    for (const char character : pField) {
-        if (character == '"') {
-            quoted += '"';
-        }
-        quoted += character;
+void clsDatFile::Quote(std::string &pLine, std::string_view pField) {
+    pLine += '"';
+    for (std::size_t quote = pField.find('"'); quote != std::string_view::npos; quote = pField.find('"')) {
+        pLine += pField.substr(0, quote + 1);
+        pLine += '"';
+        pField.remove_prefix(quote + 1);
     }
-    return quoted + '"';
+    pLine += pField;
+    pLine += '"';
 }
 
-void clsDatFile::PrintRow(TextOutput &pFile, const std::vector<std::string> &pCells) {
-    for (std::size_t col = 0; col + 1 < pCells.size(); ++col) {
-        pFile.Print(Quote(pCells[col]) + ",");
+void clsDatFile::PrintRow(TextOutput &pFile, const TextRow &pCells, std::string &pLine) const {
+    pLine.clear();
+    for (int place = 1; place <= myCols; ++place) {
+        pLine += place > 1 ? "," : "";
+        Quote(pLine, pCells(place));
     }
-    pFile.PrintLine(pCells.empty() ? "" : Quote(pCells.back()));
-}
-
-std::vector<std::string> clsDatFile::RowCells(std::int16_t pRow) const {
-    std::vector<std::string> cells;
-    for (std::int16_t col = 0; col < myCols; ++col) {
-        cells.push_back(Data(pRow, col));
-    }
-    return cells;
+    pFile.PrintLine(pLine);
 }
 
 void clsDatFile::PrintRows(TextOutput &pFile) const {
+    std::string line;
     for (std::int16_t row = 0; row < myRows; ++row) {
-        PrintRow(pFile, RowCells(row));
+        PrintRow(pFile, Row(row), line);
     }
 }
 
@@ -52,9 +47,12 @@ void clsDatFile::SaveCsv(bool pHasHeaders) {
     }
     TextOutput file(myFn);
     if (pHasHeaders) {
-        std::vector<std::string> titles = myHeaders;
-        titles.resize(static_cast<std::size_t>(myCols)); // As many as a row has fields, those missing empty.
-        PrintRow(file, titles);
+        TextRow titles; // As many as a row has fields: those missing are empty, those beyond aren't written.
+        for (int place = 1; std::cmp_less_equal(place, myHeaders.size()); ++place) {
+            titles.Set(place, myHeaders[static_cast<std::size_t>(place) - 1]);
+        }
+        std::string line;
+        PrintRow(file, titles, line);
     }
     PrintRows(file);
     Finish(file);

@@ -2,122 +2,131 @@
 
 #include "platform/Text.h"
 
+#include <algorithm>
+
 namespace modGetWords {
 
 namespace {
 
-enum class State { BetweenWords, InQuotes, BehindQuote, InPlainWord, Malformed };
+constexpr std::size_t mostKept = std::size_t{mostWords} + 1;
 
-class Scanner {
+/// Goes through a line in runs of characters that mean the same, not in single ones.
+class Splitter {
 public:
-    void Take(char pCharacter);
-    bool IsMalformed() const { return myState == State::Malformed; }
-    std::vector<std::string> Words() &&;
+    explicit Splitter(std::string_view pLine);
+    TextRow Words() &&;
 
 private:
-    void Append();
-    void BeginWord(char pCharacter);
-    void EndQuotedWord(char pCharacter);
+    enum class State { BetweenWords, InQuotes, BehindQuote, InPlainWord, Malformed };
 
-    State myState = State::BetweenWords;
-    std::vector<std::string> myWords{std::string()};
-    std::string myWord;
-    /// The last quote and the blanks behind it. Whether they end the word or belong to it is settled by the
-    /// character that follows them.
-    std::string myPending;
+    State BetweenWords();
+    State InQuotes();
+    State BehindQuote();
+    State InPlainWord();
+    State Append(std::size_t pEnd);
+    /// The character at myAt. The line's last word is closed by one, as the others are.
+    char Current() const { return myAt < myLine.size() ? myLine[myAt] : '\n'; }
+
+    std::string_view myLine;
+    std::size_t myAt = 0;
+    std::size_t myFrom = 0;  ///< where the part of the word begins that is not in myParts
+    std::size_t myQuote = 0; ///< the quote that ends the word, unless another one follows it
+    std::string myParts;     ///< the word as far as its doubled quotes go
+    std::string myRun;
+    std::vector<std::size_t> myEnds;
 };
 
-void Scanner::Append() {
-    if (myWords.size() <= mostWords + 1) {
-        myWords.emplace_back(Trim(myWord));
-    }
-    myWord.clear();
-    myPending.clear();
-    myState = State::BetweenWords;
+Splitter::Splitter(std::string_view pLine) : myLine(pLine) {
+    const auto commas = static_cast<std::size_t>(std::count(pLine.begin(), pLine.end(), ','));
+    myRun.reserve(pLine.size());
+    myEnds.reserve(std::min(commas + 1, mostKept));
 }
 
-void Scanner::BeginWord(char pCharacter) {
-    switch (pCharacter) {
+Splitter::State Splitter::Append(std::size_t pEnd) {
+    const std::string_view part = myLine.substr(myFrom, pEnd - myFrom);
+    if (myEnds.size() < mostKept) {
+        myRun += Trim(myParts.empty() ? part : myParts.append(part));
+        myEnds.push_back(myRun.size());
+    }
+    myParts.clear();
+    return State::BetweenWords;
+}
+
+Splitter::State Splitter::BetweenWords() {
+    const char character = Current();
+    myFrom = myAt;
+    switch (character) {
     case ' ':
-        break;
+        return State::BetweenWords;
     case '"':
-        myState = State::InQuotes;
-        break;
+        ++myFrom;
+        return State::InQuotes;
     case ',':
-        Append();
-        break;
+        return Append(myAt);
     default:
-        myWord = pCharacter;
-        myState = State::InPlainWord;
+        return State::InPlainWord;
     }
 }
 
-void Scanner::EndQuotedWord(char pCharacter) {
-    switch (pCharacter) {
+Splitter::State Splitter::InQuotes() {
+    myAt = std::min(myLine.find('"', myAt), myLine.size());
+    myQuote = myAt;
+    return myAt < myLine.size() ? State::BehindQuote : State::Malformed;
+}
+
+Splitter::State Splitter::BehindQuote() {
+    switch (Current()) {
     case '"':
         // The two quotes are one literal quote of the word, and blanks between them are the word's too.
-        myWord += myPending;
-        myPending.clear();
-        myState = State::InQuotes;
-        break;
+        myParts += myLine.substr(myFrom, myAt - myFrom);
+        myFrom = myAt + 1;
+        return State::InQuotes;
     case ' ':
-        myPending += pCharacter;
-        break;
+        return State::BehindQuote;
     case ',':
     case '\n':
-        Append();
-        break;
+        return Append(myQuote);
     default:
-        myState = State::Malformed;
+        return State::Malformed;
     }
 }
 
-void Scanner::Take(char pCharacter) {
-    switch (myState) {
-    case State::BetweenWords:
-        BeginWord(pCharacter);
-        break;
-    case State::InQuotes:
-        if (pCharacter == '"') {
-            myPending = pCharacter;
-            myState = State::BehindQuote;
-        } else {
-            myWord += pCharacter;
-        }
-        break;
-    case State::BehindQuote:
-        EndQuotedWord(pCharacter);
-        break;
-    case State::InPlainWord:
-        if (pCharacter == ',' || pCharacter == '\n') {
-            Append();
-        } else {
-            myWord += pCharacter;
-        }
-        break;
-    case State::Malformed:
-        break;
+Splitter::State Splitter::InPlainWord() {
+    while (Current() != ',' && Current() != '\n') {
+        ++myAt;
     }
+    return Append(myAt);
 }
 
-std::vector<std::string> Scanner::Words() && {
-    return myState == State::BetweenWords ? std::move(myWords) : std::vector<std::string>(1);
+TextRow Splitter::Words() && {
+    State state = State::BetweenWords;
+    for (; myAt <= myLine.size(); ++myAt) {
+        switch (state) {
+        case State::BetweenWords:
+            state = BetweenWords();
+            break;
+        case State::InQuotes:
+            state = InQuotes();
+            break;
+        case State::BehindQuote:
+            state = BehindQuote();
+            break;
+        case State::InPlainWord:
+            state = InPlainWord();
+            break;
+        case State::Malformed:
+            return {};
+        }
+    }
+    // Between words the character behind the line opens a word that is never closed, which is why a line that
+    // ends in a comma has no words.
+    return state == State::BetweenWords ? TextRow(myRun, myEnds) : TextRow();
 }
 
 } // namespace
 
-std::vector<std::string> GetWords(std::string_view pLine) {
-    Scanner scanner;
-    for (const char character : pLine) {
-        scanner.Take(character);
-        if (scanner.IsMalformed()) {
-            return std::vector<std::string>(1);
-        }
-    }
-    // The last word of a line is closed by a character, as the others are. Between words it opens one that
-    // is never closed, which is why a line that ends in a comma has no words.
-    scanner.Take('\n');
-    return std::move(scanner).Words();
+TextRow GetWords(std::string_view pLine) {
+    return Splitter(pLine).Words();
 }
 
 } // namespace modGetWords

@@ -23,7 +23,7 @@ QVariant RecordModel::data(const QModelIndex &pIndex, int pRole) const {
         return {};
     }
     const ListItem &item = myList.ListItems(pIndex.row() + 1);
-    const std::string &cell = pIndex.column() == 0 ? item.Text() : item.SubItems(pIndex.column());
+    const std::string_view cell = pIndex.column() == 0 ? item.Text() : item.SubItems(pIndex.column());
     return pRole == Qt::DisplayRole ? ToQtLine(cell, mostShown) : ToQt(cell);
 }
 

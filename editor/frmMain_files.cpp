@@ -49,10 +49,7 @@ void frmMain::AppOpen(const std::string &pFn) {
 
 void frmMain::FillList() {
     for (std::int16_t i = 0; i < myDat->Rows(); ++i) {
-        myRpt->AddRow();
-        for (std::int16_t j = 0; j < myDat->Cols(); ++j) {
-            myRpt->Data(i, j, myDat->Data(i, j));
-        }
+        myRpt->AddRow(myDat->Row(i));
     }
 }
 
@@ -61,9 +58,7 @@ void frmMain::AppSave(const std::string &pFn) {
     myDat->Cols(myRpt->Cols());
     myDat->Clear();
     for (std::int16_t i = 0; i < myDat->Rows(); ++i) {
-        for (std::int16_t j = 0; j < myDat->Cols(); ++j) {
-            myDat->Data(i, j, myRpt->Data(i, j));
-        }
+        myDat->Row(i, myRpt->Row(i));
     }
     myDat->FileName(pFn);
     myDat->Headers(mySpec->Col(0)); // A run that saves without having opened a file has none yet.

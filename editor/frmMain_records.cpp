@@ -31,10 +31,11 @@ void frmMain::AddRecord() {
         TellFault("The list is full: it holds at most " + std::to_string(mostRecords) + " records.");
         return;
     }
-    ListItem &item = ListView1.ListItems.Add(Field(0).Text());
-    for (std::int16_t c = 1; c < mySpec->Rows(); ++c) {
-        item.SubItems(c, Field(c).Text());
+    TextRow texts;
+    for (std::int16_t c = 0; c < mySpec->Rows(); ++c) {
+        texts.Set(c + 1, Field(c).Text());
     }
+    ListView1.ListItems.Add(std::move(texts));
 }
 
 void frmMain::UpdateRecord() {

@@ -13,6 +13,14 @@ std::string_view Text(const std::uint8_t *pBytes, std::size_t pSize) {
     return {reinterpret_cast<const char *>(pBytes), pSize};
 }
 
+std::vector<std::string> Texts(const TextRow &pRow) {
+    std::vector<std::string> texts;
+    for (int place = 1; place <= pRow.Count(); ++place) {
+        texts.emplace_back(pRow(place));
+    }
+    return texts;
+}
+
 void Require(bool pHolds, const char *pLaw) {
     if (!pHolds) {
         std::fprintf(stderr, "Broken law: %s\n", pLaw);

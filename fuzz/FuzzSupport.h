@@ -19,6 +19,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *pBytes, std::size_t pS
 
 std::string_view Text(const std::uint8_t *pBytes, std::size_t pSize);
 
+std::vector<std::string> Texts(const TextRow &pRow);
+
 /// Aborts the process, saying pLaw, when pHolds is false.
 void Require(bool pHolds, const char *pLaw);
 

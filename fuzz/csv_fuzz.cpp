@@ -11,8 +11,7 @@ using Table = std::vector<std::vector<std::string>>;
 Table RowsOf(const std::vector<std::string_view> &pLines, std::size_t pFirst) {
     Table rows;
     for (std::size_t line = pFirst; line < pLines.size(); ++line) {
-        std::vector<std::string> words = modGetWords::GetWords(pLines[line]);
-        words.erase(words.begin());
+        std::vector<std::string> words = Texts(modGetWords::GetWords(pLines[line]));
         if (words.empty() || (!rows.empty() && words.size() != rows[0].size())) {
             break;
         }

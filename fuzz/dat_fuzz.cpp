@@ -23,13 +23,12 @@ std::optional<std::pair<int, int>> PlainSize(std::string_view pLine) {
 int RowsThatCame(const clsDatFile &pTable, const std::vector<std::string_view> &pLines) {
     int row = 0;
     for (; row < pTable.Rows() && static_cast<std::size_t>(row) + 1 < pLines.size(); ++row) {
-        const auto words = modGetWords::GetWords(pLines[static_cast<std::size_t>(row) + 1]);
-        if (words.size() != static_cast<std::size_t>(pTable.Cols()) + 1) {
+        const TextRow words = modGetWords::GetWords(pLines[static_cast<std::size_t>(row) + 1]);
+        if (words.Count() != pTable.Cols()) {
             break;
         }
-        for (std::size_t word = 1; word < words.size(); ++word) {
-            const auto col = static_cast<std::int16_t>(word - 1);
-            Require(pTable.Data(static_cast<std::int16_t>(row), col) == words[word],
+        for (std::int16_t col = 0; col < pTable.Cols(); ++col) {
+            Require(pTable.Data(static_cast<std::int16_t>(row), col) == words(col + 1),
                     "a cell is the word of its line");
         }
     }

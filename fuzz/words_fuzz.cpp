@@ -35,9 +35,9 @@ std::optional<std::string> QuotedWord(std::string_view pLine, std::size_t &pAt) 
 }
 
 std::vector<std::string> OtherWords(const std::string &pLine) {
-    const std::vector<std::string> noWords(1);
+    const std::vector<std::string> noWords;
     const std::string line = pLine + "\n";
-    std::vector<std::string> words(1);
+    std::vector<std::string> words;
     for (std::size_t at = line.find_first_not_of(' '); at != none; at = line.find_first_not_of(' ', at)) {
         if (line[at] == '"') {
             const auto word = QuotedWord(line, ++at);
@@ -59,9 +59,9 @@ std::vector<std::string> OtherWords(const std::string &pLine) {
 
 std::string Quoted(const std::vector<std::string> &pWords) {
     std::string line;
-    for (std::size_t i = 1; i < pWords.size(); ++i) {
-        line += i == 1 ? "\"" : ",\"";
-        for (const char character : pWords[i]) {
+    for (const std::string &word : pWords) {
+        line += line.empty() ? "\"" : ",\"";
+        for (const char character : word) {
             line += character == '"' ? "\"\"" : std::string(1, character);
         }
         line += '"';
@@ -73,8 +73,8 @@ std::string Quoted(const std::vector<std::string> &pWords) {
 
 int LLVMFuzzerTestOneInput(const std::uint8_t *pBytes, std::size_t pSize) {
     const std::string line(Text(pBytes, pSize));
-    const std::vector<std::string> words = modGetWords::GetWords(line);
+    const std::vector<std::string> words = Texts(modGetWords::GetWords(line));
     Require(words == OtherWords(line), "both readings of the rules give the same words");
-    Require(modGetWords::GetWords(Quoted(words)) == words, "words that are quoted come back");
+    Require(Texts(modGetWords::GetWords(Quoted(words))) == words, "words that are quoted come back");
     return 0;
 }

@@ -1,8 +1,20 @@
 #include "platform/Files.h"
 
-#include "platform/System.h"
-
 #include <algorithm>
+#include <utility>
+
+namespace {
+
+/// Enough that the system's calls cost nothing, and little enough to stay in the processor's cache.
+constexpr std::size_t blockBytes = std::size_t{64} << 10U;
+
+std::string EmptyBlock() {
+    std::string block;
+    block.reserve(blockBytes);
+    return block;
+}
+
+} // namespace
 
 std::string Dir(const std::string &pPath) {
     if (!os::IsFile(pPath)) {
@@ -12,48 +24,85 @@ std::string Dir(const std::string &pPath) {
     return path.substr(path.find_last_of('/') + 1);
 }
 
-TextInput::TextInput(const std::string &pName) {
-    os::ReadResult file = os::ReadFile(pName);
-    myBytes = std::move(file.bytes);
-    myFault = std::move(file.fault);
+bool TextInput::AtEnd() {
+    return Unread().empty() && !ReadMore();
+}
+
+/// Reads on behind what is unread; false when the file has no more.
+bool TextInput::ReadMore() {
+    if (myAt > 0) {
+        std::copy(Unread().begin(), Unread().end(), myBuffer.begin());
+        myEnd -= std::exchange(myAt, 0);
+    }
+    if (myEnd == myBuffer.size()) {
+        myBuffer.resize(std::max(blockBytes, 2 * myBuffer.size())); // A line is longer than all of it.
+    }
+    const std::size_t count = myFile.Read(&myBuffer[myEnd], myBuffer.size() - myEnd);
+    myEnd += count;
+    return count > 0;
+}
+
+/// Length of the rest of the current line, all of which is in the buffer then.
+std::size_t TextInput::LineLength() {
+    std::size_t searched = 0;
+    for (;;) {
+        const std::size_t length = Unread().find('\r', searched);
+        if (length != std::string_view::npos) {
+            return length;
+        }
+        searched = Unread().size();
+        if (!ReadMore()) {
+            return searched;
+        }
+    }
 }
 
 std::string_view TextInput::LineInput() {
-    const std::string_view rest = std::string_view(myBytes).substr(myAt);
-    const std::size_t length = std::min(rest.find('\r'), rest.size());
-    const std::string_view end = rest.substr(length, 2);
+    const std::size_t length = LineLength();
+    if (Unread().size() < length + 2) {
+        ReadMore(); // An LF that belongs to the CR may come with the next block.
+    }
+    const std::string_view line = Unread().substr(0, length);
+    const std::string_view end = Unread().substr(length, 2);
     myAt += length + (end == "\r\n" ? 2 : std::min<std::size_t>(end.size(), 1));
-    return rest.substr(0, length);
+    return line;
 }
 
 std::optional<std::string_view> TextInput::InputItem() {
-    const std::string_view bytes = myBytes;
-    const auto at = [&] { return myAt < bytes.size() ? bytes[myAt] : '\r'; };
-    const auto skipBlanks = [&] {
-        while (at() == ' ') {
-            ++myAt;
-        }
-    };
-    skipBlanks();
-    if (at() == '\r') {
+    const std::size_t length = LineLength();
+    const std::string_view line = Unread().substr(0, length);
+    const std::size_t from = line.find_first_not_of(' ');
+    if (from == std::string_view::npos) {
+        myAt += line.size();
         return std::nullopt;
     }
-    const std::size_t from = myAt;
-    while (at() != ',' && at() != ' ' && at() != '\r') {
-        ++myAt;
+    const std::size_t end = std::min(line.find_first_of(", ", from), line.size());
+    const std::size_t next = std::min(line.find_first_not_of(' ', end), line.size());
+    myAt += next + (line.substr(next, 1) == "," ? 1 : 0);
+    return line.substr(from, end - from);
+}
+
+TextOutput::TextOutput(const std::string &pName) : myBlock(EmptyBlock()), myFile(pName) {}
+
+void TextOutput::Print(std::string_view pText) {
+    if (pText.size() > blockBytes - myBlock.size()) {
+        myFile.Write(myBlock);
+        myBlock.clear();
     }
-    const std::string_view item = bytes.substr(from, myAt - from);
-    skipBlanks();
-    myAt += at() == ',' ? 1 : 0;
-    return item;
+    if (pText.size() > blockBytes) {
+        myFile.Write(pText);
+    } else {
+        myBlock += pText;
+    }
 }
 
 void TextOutput::PrintLine(std::string_view pText) {
-    myBytes += pText;
-    myBytes += "\r\n";
+    Print(pText);
+    Print("\r\n");
 }
 
 TextOutput::Fault TextOutput::Close() {
-    os::WriteResult result = os::WriteFile(myName, myBytes);
-    return {std::move(result.fault), result.wasEmptied};
+    myFile.Write(myBlock);
+    myFile.Close();
+    return {myFile.Fault(), !myFile.Fault().empty() && myFile.WasEmptied()};
 }

@@ -1,6 +1,8 @@
 #pragma once
 /// Text files as the logic sees them: looked for by Dir, read in sequence by lines and items, written in
 /// sequence. The line rule stands here and nowhere else: CR or CR LF ends a line, LF alone does not.
+#include "platform/System.h"
+
 #include <optional>
 #include <string>
 #include <string_view>
@@ -9,40 +11,44 @@
 /// are ordinary characters; a relative path counts from the current folder.
 std::string Dir(const std::string &pPath);
 
-/// A file open for input. Its bytes are taken in when it is opened, so that no file stays open and all views
-/// that the operations return hold as long as this object.
+/// A file open for input. It is read block by block, so that only the line that is asked for is in memory.
 class TextInput {
 public:
-    explicit TextInput(const std::string &pName);
+    explicit TextInput(const std::string &pName) : myFile(pName) {}
 
-    /// The system's reason why the file could not be read; empty when it could. A file with a fault reads
-    /// like one without bytes.
-    const std::string &Fault() const { return myFault; }
+    /// The system's reason why the file could not be read; empty as long as it could. From a fault on the
+    /// file reads as if it ended there, so it has to be asked for at the end as well.
+    const std::string &Fault() const { return myFile.Fault(); }
 
     /// True when the next read would find nothing.
-    bool AtEnd() const { return myAt >= myBytes.size(); }
+    bool AtEnd();
 
-    /// The next line without its line end; empty at the end of the file.
+    /// The next line without its line end; empty at the end of the file. It holds until the next read.
     std::string_view LineInput();
 
     /// The next item of the current line: what stands up to a comma, a blank or the end of the line, blanks
     /// before it skipped, and what ends it taken too: a comma, or blanks and a comma if one follows them.
-    /// Nothing when the line has no further item.
+    /// Nothing when the line has no further item. It holds until the next line is read.
     std::optional<std::string_view> InputItem();
 
 private:
-    std::string myBytes;
-    std::string myFault;
+    std::string_view Unread() const { return std::string_view(myBuffer).substr(myAt, myEnd - myAt); }
+    bool ReadMore();
+    std::size_t LineLength();
+
+    os::FileReader myFile;
+    std::string myBuffer; ///< what was read and not yet handed out stands from myAt to myEnd
     std::size_t myAt = 0;
+    std::size_t myEnd = 0;
 };
 
-/// A file open for output. What is printed is gathered; Close alone touches the disk.
+/// A file open for output, which loses what was in it. What is printed goes to the disk block by block.
 class TextOutput {
 public:
-    explicit TextOutput(std::string pName) : myName(std::move(pName)) {}
+    explicit TextOutput(const std::string &pName);
 
     /// Adds pText unchanged.
-    void Print(std::string_view pText) { myBytes += pText; }
+    void Print(std::string_view pText);
 
     /// Adds pText and a line end, CR LF.
     void PrintLine(std::string_view pText);
@@ -52,10 +58,11 @@ public:
         bool mayBeIncomplete; ///< the old content is gone and the new one is not all there
     };
 
-    /// Replaces the file's content by all that was printed and has it flushed to the disk.
+    /// Writes what is left and has the file flushed to the disk. Tells of the first fault since the file was
+    /// opened.
     Fault Close();
 
 private:
-    std::string myName;
-    std::string myBytes;
+    std::string myBlock; ///< never grows, so that memory can't run out once the file is emptied
+    os::FileWriter myFile;
 };

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-void ListItem::Text(const std::string &pText) {
-    myText = pText;
+void ListItem::SetText(int pPlace, std::string_view pText) {
+    myTexts.Set(pPlace, pText);
     myOwner.RowsChanged();
 }
 
@@ -23,25 +23,15 @@ void ListItem::Select() {
     myOwner.SelectedItem(this);
 }
 
-const std::string &ListItem::SubItems(int pIndex) const {
-    static const std::string none;
-    return pIndex >= 1 && pIndex <= SubItemCount() ? mySubItems[static_cast<std::size_t>(pIndex - 1)] : none;
+void ListItem::SubItems(int pIndex, std::string_view pText) {
+    if (pIndex >= 1) {
+        SetText(pIndex + 1, pText);
+    }
 }
 
-void ListItem::SubItems(int pIndex, const std::string &pText) {
-    if (pIndex < 1) {
-        return;
-    }
-    if (pIndex > SubItemCount()) {
-        mySubItems.resize(static_cast<std::size_t>(pIndex));
-    }
-    mySubItems[static_cast<std::size_t>(pIndex - 1)] = pText;
-    myOwner.RowsChanged();
-}
-
-ListItem &ListItems::Add(int pIndex, const std::string &pText) {
+ListItem &ListItems::Add(int pIndex, TextRow pTexts) {
     const auto place = myItems.begin() + (pIndex - 1);
-    ListItem &item = **myItems.insert(place, std::make_unique<ListItem>(myOwner, pText));
+    ListItem &item = **myItems.insert(place, std::make_unique<ListItem>(myOwner, std::move(pTexts)));
     myOwner.ItemAdded(pIndex);
     return item;
 }

@@ -4,9 +4,12 @@
 /// are.
 #include "platform/Control.h"
 #include "platform/Event.h"
+#include "platform/TextRow.h"
 
+#include <algorithm>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 class ListView;
@@ -14,10 +17,11 @@ class ListView;
 /// One row of a ListView: Text is column 0, sub item i is column i.
 class ListItem {
 public:
-    ListItem(ListView &pOwner, std::string pText) : myOwner(pOwner), myText(std::move(pText)) {}
+    ListItem(ListView &pOwner, TextRow pTexts) : myOwner(pOwner), myTexts(std::move(pTexts)) {}
 
-    const std::string &Text() const { return myText; }
-    void Text(const std::string &pText);
+    /// The text holds until the item is changed.
+    std::string_view Text() const { return myTexts(1); }
+    void Text(std::string_view pText) { SetText(1, pText); }
 
     /// Place in the list, from 1.
     int Index() const;
@@ -25,16 +29,22 @@ public:
     /// Makes this the selected item.
     void Select();
 
-    int SubItemCount() const { return static_cast<int>(mySubItems.size()); }
-    /// The text of sub item pIndex, from 1; empty where there is none.
-    const std::string &SubItems(int pIndex) const;
+    int SubItemCount() const { return std::max(myTexts.Count() - 1, 0); }
+    /// The text of sub item pIndex, from 1; empty where there is none. It holds until the item is changed.
+    std::string_view SubItems(int pIndex) const {
+        return pIndex < 1 ? std::string_view() : myTexts(pIndex + 1);
+    }
     /// Sets the text of sub item pIndex, from 1, and makes it and those before it where they are missing.
-    void SubItems(int pIndex, const std::string &pText);
+    void SubItems(int pIndex, std::string_view pText);
+
+    /// Text and sub items, the text at place 1.
+    const TextRow &Texts() const { return myTexts; }
 
 private:
+    void SetText(int pPlace, std::string_view pText);
+
     ListView &myOwner;
-    std::string myText;
-    std::vector<std::string> mySubItems;
+    TextRow myTexts;
 };
 
 /// The items of a ListView in their order.
@@ -47,9 +57,9 @@ public:
     ListItem &operator()(int pIndex) const { return *myItems[static_cast<std::size_t>(pIndex - 1)]; }
 
     /// A new item at the end.
-    ListItem &Add(const std::string &pText) { return Add(Count() + 1, pText); }
+    ListItem &Add(TextRow pTexts) { return Add(Count() + 1, std::move(pTexts)); }
     /// A new item at pIndex, from 1 to Count() + 1; the items from there on move one place down.
-    ListItem &Add(int pIndex, const std::string &pText);
+    ListItem &Add(int pIndex, TextRow pTexts);
     /// Removes item pIndex. When it was the selected one, the item that takes its place is selected, or the
     /// new last one when it was the last.
     void Remove(int pIndex);

@@ -1,6 +1,8 @@
 #pragma once
 /// The few calls that only the operating system can answer, behind one face for POSIX and Windows
 /// (System_posix.cpp, System_windows.cpp). Paths are UTF-8 and go by NativePath's rule.
+#include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -17,24 +19,52 @@ bool IsFile(const std::string &pPath);
 /// Whether pPath names a folder.
 bool IsFolder(const std::string &pPath);
 
-struct ReadResult {
-    std::string bytes;
-    std::string fault; ///< the system's reason in words; empty when all bytes were read
+/// A regular file open for reading from its start. Anything else (a pipe, a device, a folder) is a fault, at
+/// once and without waiting for it.
+class FileReader {
+public:
+    explicit FileReader(const std::string &pPath);
+    ~FileReader();
+    FileReader(const FileReader &) = delete;
+    FileReader &operator=(const FileReader &) = delete;
+
+    /// Puts the file's next bytes to pRoom, at most pSize. How many they are: 0 at the end, and from a fault
+    /// on.
+    std::size_t Read(char *pRoom, std::size_t pSize);
+
+    /// The system's reason in words; empty while there is no fault.
+    const std::string &Fault() const { return myFault; }
+
+private:
+    std::intptr_t myHandle;
+    std::string myFault;
 };
 
-/// All bytes of the regular file pPath. Anything else (a pipe, a device, a folder) is a fault, at once and
-/// without waiting for it.
-ReadResult ReadFile(const std::string &pPath);
+/// A file whose content is replaced. To construct it empties or creates the file; each step's result is
+/// looked at. A pipe or a socket is refused untouched; a device that can't be emptied or flushed is none the
+/// worse for it.
+class FileWriter {
+public:
+    explicit FileWriter(const std::string &pPath);
+    ~FileWriter();
+    FileWriter(const FileWriter &) = delete;
+    FileWriter &operator=(const FileWriter &) = delete;
 
-struct WriteResult {
-    std::string fault;       ///< the system's reason in words; empty when all bytes are on the disk
-    bool wasEmptied = false; ///< the file had been created or emptied when the fault came
+    /// Writes pBytes behind what is there; nothing from a fault on.
+    void Write(std::string_view pBytes);
+    /// Flushes to the disk and closes; nothing more can be written.
+    void Close();
+
+    /// The system's reason in words; empty while there is no fault, and after Close when all is on the disk.
+    const std::string &Fault() const { return myFault; }
+    /// Whether the file had been created or emptied.
+    bool WasEmptied() const { return myWasEmptied; }
+
+private:
+    std::intptr_t myHandle;
+    std::string myFault;
+    bool myWasEmptied = false;
 };
-
-/// Makes pBytes the content of pPath: empties or creates the file, writes, flushes to the disk, closes, and
-/// looks at the result of each step. A pipe or a socket is refused untouched; a device that can't be emptied
-/// or flushed is none the worse for it.
-WriteResult WriteFile(const std::string &pPath, std::string_view pBytes);
 
 /// pCharacter in lower case by the system's rule for Unicode, the same in every locale.
 char32_t LowerCase(char32_t pCharacter);

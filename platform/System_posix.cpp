@@ -6,7 +6,7 @@
 #include <csignal>
 #include <cstring>
 #include <cwctype>
-#include <new>
+#include <utility>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -32,68 +32,25 @@ std::string Reason(int pError) {
     return std::strerror(pError);
 }
 
-/// An open file, closed when this goes unless Close was called.
-class Descriptor {
-public:
-    Descriptor(const std::string &pPath, int pFlags)
-        : myNumber(open(pPath.c_str(), pFlags | O_CLOEXEC | O_NOCTTY | O_NONBLOCK, 0666)) {}
-    ~Descriptor() { Close(); }
-    Descriptor(const Descriptor &) = delete;
-    Descriptor &operator=(const Descriptor &) = delete;
-
-    int Number() const { return myNumber; }
-    bool IsOpen() const { return myNumber >= 0; }
-
-    bool Close() {
-        const int number = myNumber;
-        myNumber = -1;
-        return number < 0 || close(number) == 0;
-    }
-
-private:
-    int myNumber;
-};
-
-/// All bytes of an open file that has pSize of them, or had when it was asked. Throws std::bad_alloc for a
-/// file that memory can't hold.
-os::ReadResult ReadAll(int pNumber, std::size_t pSize) {
-    os::ReadResult result;
-    // One byte more than the file has, so that the read that finds its end needs no further room.
-    result.bytes.resize(pSize + 1);
-    std::size_t filled = 0;
-    for (;;) {
-        if (filled == result.bytes.size()) {
-            result.bytes.resize(result.bytes.size() * 2); // It grew while it was read.
-        }
-        const ssize_t count = read(pNumber, result.bytes.data() + filled, result.bytes.size() - filled);
-        if (count < 0 && errno == EINTR) {
-            continue;
-        }
-        if (count < 0) {
-            return {{}, Reason(errno)};
-        }
-        if (count == 0) {
-            break;
-        }
-        filled += static_cast<std::size_t>(count);
-    }
-    result.bytes.resize(filled);
-    return result;
+/// A descriptor of pPath, -1 with errno set when it can't be had. Opening a pipe doesn't wait.
+int Open(const std::string &pPath, int pFlags) {
+    return open(pPath.c_str(), pFlags | O_CLOEXEC | O_NOCTTY | O_NONBLOCK, 0666);
 }
 
-/// Writes all of pBytes; false with errno set when the system takes no more.
-bool WriteAll(int pNumber, std::string_view pBytes) {
-    while (!pBytes.empty()) {
-        const ssize_t written = write(pNumber, pBytes.data(), pBytes.size());
-        if (written < 0 && errno == EINTR) {
-            continue;
-        }
-        if (written < 0) {
-            return false;
-        }
-        pBytes.remove_prefix(static_cast<std::size_t>(written));
-    }
-    return true;
+constexpr std::intptr_t noHandle = -1;
+
+int Descriptor(std::intptr_t pHandle) {
+    return static_cast<int>(pHandle);
+}
+
+/// Gives pHandle back; false with errno set when the system says that what was written is not safe.
+bool GiveBack(std::intptr_t &pHandle) {
+    const std::intptr_t handle = std::exchange(pHandle, noHandle);
+    return handle == noHandle || close(Descriptor(handle)) == 0;
+}
+
+bool IsPipe(const struct stat &pStatus) {
+    return S_ISFIFO(pStatus.st_mode) || S_ISSOCK(pStatus.st_mode);
 }
 
 /// Flushes to the disk. What has no disk behind it (a device) says so, and that is no fault.
@@ -126,53 +83,81 @@ bool IsFolder(const std::string &pPath) {
     return StatusOf(pPath, status) && S_ISDIR(status.st_mode);
 }
 
-ReadResult ReadFile(const std::string &pPath) {
-    if (!IsUsable(pPath)) {
-        return {{}, Reason(ENOENT)};
-    }
-    const Descriptor file(NativePath(pPath), O_RDONLY);
+FileReader::FileReader(const std::string &pPath)
+    : myHandle(IsUsable(pPath) ? Open(NativePath(pPath), O_RDONLY) : noHandle) {
     struct stat status {};
-    if (!file.IsOpen() || fstat(file.Number(), &status) != 0) {
-        return {{}, Reason(errno)};
-    }
-    if (S_ISDIR(status.st_mode)) {
-        return {{}, Reason(EISDIR)};
-    }
-    if (!S_ISREG(status.st_mode)) {
-        return {{}, "Not a regular file"};
-    }
-    try {
-        return ReadAll(file.Number(), static_cast<std::size_t>(status.st_size));
-    } catch (const std::bad_alloc &) {
-        return {{}, Reason(ENOMEM)};
+    if (!IsUsable(pPath)) {
+        myFault = Reason(ENOENT);
+    } else if (myHandle == noHandle || fstat(Descriptor(myHandle), &status) != 0) {
+        myFault = Reason(errno);
+    } else if (S_ISDIR(status.st_mode)) {
+        myFault = Reason(EISDIR);
+    } else if (!S_ISREG(status.st_mode)) {
+        myFault = "Not a regular file";
     }
 }
 
-WriteResult WriteFile(const std::string &pPath, std::string_view pBytes) {
+FileReader::~FileReader() {
+    GiveBack(myHandle);
+}
+
+std::size_t FileReader::Read(char *pRoom, std::size_t pSize) {
+    while (myFault.empty()) {
+        const ssize_t count = read(Descriptor(myHandle), pRoom, pSize);
+        if (count >= 0) {
+            return static_cast<std::size_t>(count);
+        }
+        if (errno != EINTR) {
+            myFault = Reason(errno);
+        }
+    }
+    return 0;
+}
+
+FileWriter::FileWriter(const std::string &pPath) : myHandle(noHandle) {
     if (!IsUsable(pPath)) {
-        return {Reason(ENOENT), false};
+        myFault = Reason(ENOENT);
+        return;
     }
     const std::string path = NativePath(pPath);
     struct stat status {};
     const bool wasThere = stat(path.c_str(), &status) == 0;
-    if (wasThere && (S_ISFIFO(status.st_mode) || S_ISSOCK(status.st_mode))) {
-        return {"Not a regular file", false};
+    if (wasThere && IsPipe(status)) {
+        myFault = "Not a regular file";
+        return;
     }
-    Descriptor file(path, O_WRONLY | O_CREAT);
-    if (!file.IsOpen() || fstat(file.Number(), &status) != 0) {
-        return {Reason(errno), false};
+    myHandle = Open(path, O_WRONLY | O_CREAT);
+    if (myHandle == noHandle || fstat(Descriptor(myHandle), &status) != 0) {
+        myFault = Reason(errno);
+    } else if (IsPipe(status)) {
+        myFault = "Not a regular file"; // It took the place of the file in this moment.
+    } else {
+        const bool hasContent = S_ISREG(status.st_mode); // A device has none.
+        const bool isEmpty = !hasContent || ftruncate(Descriptor(myHandle), 0) == 0;
+        myFault = isEmpty ? "" : Reason(errno);
+        myWasEmptied = isEmpty ? hasContent : !wasThere;
     }
-    if (S_ISFIFO(status.st_mode) || S_ISSOCK(status.st_mode)) {
-        return {"Not a regular file", false}; // It took the place of the file in this moment.
+}
+
+FileWriter::~FileWriter() {
+    GiveBack(myHandle);
+}
+
+void FileWriter::Write(std::string_view pBytes) {
+    while (myFault.empty() && !pBytes.empty()) {
+        const ssize_t written = write(Descriptor(myHandle), pBytes.data(), pBytes.size());
+        if (written >= 0) {
+            pBytes.remove_prefix(static_cast<std::size_t>(written));
+        } else if (errno != EINTR) {
+            myFault = Reason(errno);
+        }
     }
-    const bool hasContent = S_ISREG(status.st_mode);
-    if (hasContent && ftruncate(file.Number(), 0) != 0) {
-        return {Reason(errno), !wasThere};
+}
+
+void FileWriter::Close() {
+    if (myFault.empty() && (!Flush(Descriptor(myHandle)) || !GiveBack(myHandle))) {
+        myFault = Reason(errno);
     }
-    if (!WriteAll(file.Number(), pBytes) || !Flush(file.Number()) || !file.Close()) {
-        return {Reason(errno), hasContent};
-    }
-    return {};
 }
 
 char32_t LowerCase(char32_t pCharacter) {

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <limits>
-#include <new>
+#include <utility>
 
 #ifndef NOMINMAX
 #define NOMINMAX
@@ -61,78 +61,35 @@ bool HasAny(DWORD pAttributes, DWORD pWanted) {
     return pAttributes != INVALID_FILE_ATTRIBUTES && (pAttributes & pWanted) != 0;
 }
 
-/// An open file, closed when this goes unless Close was called.
-class File {
-public:
-    File(const std::wstring &pPath, DWORD pAccess, DWORD pShare, DWORD pDisposition)
-        : myHandle(CreateFileW(pPath.c_str(), pAccess, pShare, nullptr, pDisposition, FILE_ATTRIBUTE_NORMAL,
-                               nullptr)) {}
-    ~File() { Close(); }
-    File(const File &) = delete;
-    File &operator=(const File &) = delete;
+const std::intptr_t noHandle = reinterpret_cast<std::intptr_t>(INVALID_HANDLE_VALUE);
 
-    HANDLE Handle() const { return myHandle; }
-    bool IsOpen() const { return myHandle != INVALID_HANDLE_VALUE; }
+/// A handle of pPath; noHandle with the last error set when it can't be had.
+std::intptr_t Open(const std::wstring &pPath, DWORD pAccess, DWORD pShare, DWORD pDisposition) {
+    return reinterpret_cast<std::intptr_t>(
+        CreateFileW(pPath.c_str(), pAccess, pShare, nullptr, pDisposition, FILE_ATTRIBUTE_NORMAL, nullptr));
+}
 
-    bool Close() {
-        const HANDLE handle = myHandle;
-        myHandle = INVALID_HANDLE_VALUE;
-        return handle == INVALID_HANDLE_VALUE || CloseHandle(handle) != 0;
-    }
+HANDLE Native(std::intptr_t pHandle) {
+    return reinterpret_cast<HANDLE>(pHandle);
+}
 
-private:
-    HANDLE myHandle;
-};
+/// Gives pHandle back; false with the last error set when the system says that what was written is not safe.
+bool GiveBack(std::intptr_t &pHandle) {
+    const std::intptr_t handle = std::exchange(pHandle, noHandle);
+    return handle == noHandle || CloseHandle(Native(handle)) != 0;
+}
 
-/// Writes all of pBytes; false when the system takes no more.
-bool WriteAll(const File &pFile, std::string_view pBytes) {
-    while (!pBytes.empty()) {
-        const DWORD size = static_cast<DWORD>(std::min(pBytes.size(), mostBytesPerCall));
-        DWORD written = 0;
-        if (::WriteFile(pFile.Handle(), pBytes.data(), size, &written, nullptr) == 0) {
-            return false;
-        }
-        if (written == 0) {
-            SetLastError(ERROR_DISK_FULL); // It took nothing and gave no reason; asking on would never end.
-            return false;
-        }
-        pBytes.remove_prefix(written);
-    }
-    return true;
+DWORD SizeForCall(std::size_t pSize) {
+    return static_cast<DWORD>(std::min(pSize, mostBytesPerCall));
 }
 
 /// Flushes to the disk. A file system that has no notion of it says so, and that is no fault.
-bool Flush(const File &pFile) {
-    if (FlushFileBuffers(pFile.Handle()) != 0) {
+bool Flush(HANDLE pFile) {
+    if (FlushFileBuffers(pFile) != 0) {
         return true;
     }
     const DWORD error = GetLastError();
     return error == ERROR_INVALID_FUNCTION || error == ERROR_NOT_SUPPORTED;
-}
-
-/// All bytes of an open file that has pSize of them, or had when it was asked. Throws std::bad_alloc for a
-/// file that memory can't hold.
-os::ReadResult ReadAll(HANDLE pHandle, std::size_t pSize) {
-    os::ReadResult result;
-    // One byte more than the file has, so that the read that finds its end needs no further room.
-    result.bytes.resize(pSize + 1);
-    std::size_t filled = 0;
-    for (;;) {
-        if (filled == result.bytes.size()) {
-            result.bytes.resize(result.bytes.size() * 2); // It grew while it was read.
-        }
-        const DWORD room = static_cast<DWORD>(std::min(result.bytes.size() - filled, mostBytesPerCall));
-        DWORD count = 0;
-        if (::ReadFile(pHandle, result.bytes.data() + filled, room, &count, nullptr) == 0) {
-            return {{}, LastReason()};
-        }
-        if (count == 0) {
-            break;
-        }
-        filled += count;
-    }
-    result.bytes.resize(filled);
-    return result;
 }
 
 } // namespace
@@ -156,60 +113,88 @@ bool IsFolder(const std::string &pPath) {
     return HasAny(AttributesOf(Wide(NativePath(pPath))), FILE_ATTRIBUTE_DIRECTORY);
 }
 
-ReadResult ReadFile(const std::string &pPath) {
+FileReader::FileReader(const std::string &pPath) : myHandle(noHandle) {
     const std::wstring path = Wide(NativePath(pPath));
     if (path.empty()) {
-        return {{}, Reason(ERROR_INVALID_NAME)};
+        myFault = Reason(ERROR_INVALID_NAME);
+        return;
     }
     if (HasAny(AttributesOf(path), FILE_ATTRIBUTE_DIRECTORY)) {
-        return {{}, "Is a folder"};
+        myFault = "Is a folder";
+        return;
     }
     constexpr DWORD share = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-    const File file(path, GENERIC_READ, share, OPEN_EXISTING);
-    if (!file.IsOpen()) {
-        return {{}, LastReason()};
-    }
-    if (GetFileType(file.Handle()) != FILE_TYPE_DISK) {
-        return {{}, "Not a regular file"};
-    }
-    LARGE_INTEGER size{};
-    if (GetFileSizeEx(file.Handle(), &size) == 0) {
-        return {{}, LastReason()};
-    }
-    try {
-        return ReadAll(file.Handle(), static_cast<std::size_t>(size.QuadPart));
-    } catch (const std::bad_alloc &) {
-        return {{}, Reason(ERROR_NOT_ENOUGH_MEMORY)};
+    myHandle = Open(path, GENERIC_READ, share, OPEN_EXISTING);
+    if (myHandle == noHandle) {
+        myFault = LastReason();
+    } else if (GetFileType(Native(myHandle)) != FILE_TYPE_DISK) {
+        myFault = "Not a regular file";
     }
 }
 
-WriteResult WriteFile(const std::string &pPath, std::string_view pBytes) {
+FileReader::~FileReader() {
+    GiveBack(myHandle);
+}
+
+std::size_t FileReader::Read(char *pRoom, std::size_t pSize) {
+    DWORD count = 0;
+    if (myFault.empty() && ::ReadFile(Native(myHandle), pRoom, SizeForCall(pSize), &count, nullptr) == 0) {
+        myFault = LastReason();
+        return 0;
+    }
+    return count;
+}
+
+FileWriter::FileWriter(const std::string &pPath) : myHandle(noHandle) {
     const std::wstring path = Wide(NativePath(pPath));
     if (path.empty()) {
-        return {Reason(ERROR_INVALID_NAME), false};
+        myFault = Reason(ERROR_INVALID_NAME);
+        return;
     }
     const DWORD attributes = AttributesOf(path);
     if (HasAny(attributes, FILE_ATTRIBUTE_DIRECTORY)) {
-        return {"Is a folder", false};
+        myFault = "Is a folder";
+        return;
     }
     const bool wasThere = attributes != INVALID_FILE_ATTRIBUTES;
     // Not CREATE_ALWAYS: that refuses to empty a hidden file, and would empty before the kind is known.
-    File file(path, GENERIC_WRITE, FILE_SHARE_READ, OPEN_ALWAYS);
-    if (!file.IsOpen()) {
-        return {LastReason(), false};
+    myHandle = Open(path, GENERIC_WRITE, FILE_SHARE_READ, OPEN_ALWAYS);
+    if (myHandle == noHandle) {
+        myFault = LastReason();
+        return;
     }
-    const DWORD kind = GetFileType(file.Handle());
+    const DWORD kind = GetFileType(Native(myHandle));
     if (kind != FILE_TYPE_DISK && kind != FILE_TYPE_CHAR) {
-        return {"Not a regular file", false};
+        myFault = "Not a regular file";
+        return;
     }
-    const bool hasContent = kind == FILE_TYPE_DISK;
-    if (hasContent && SetEndOfFile(file.Handle()) == 0) {
-        return {LastReason(), !wasThere};
+    const bool hasContent = kind == FILE_TYPE_DISK; // A device has none.
+    const bool isEmpty = !hasContent || SetEndOfFile(Native(myHandle)) != 0;
+    myFault = isEmpty ? "" : LastReason();
+    myWasEmptied = isEmpty ? hasContent : !wasThere;
+}
+
+FileWriter::~FileWriter() {
+    GiveBack(myHandle);
+}
+
+void FileWriter::Write(std::string_view pBytes) {
+    while (myFault.empty() && !pBytes.empty()) {
+        DWORD written = 0;
+        if (::WriteFile(Native(myHandle), pBytes.data(), SizeForCall(pBytes.size()), &written, nullptr) ==
+            0) {
+            myFault = LastReason();
+        } else if (written == 0) {
+            myFault = Reason(ERROR_DISK_FULL); // It took nothing; asking on would never end.
+        }
+        pBytes.remove_prefix(written);
     }
-    if (!WriteAll(file, pBytes) || (hasContent && !Flush(file)) || !file.Close()) {
-        return {LastReason(), hasContent};
+}
+
+void FileWriter::Close() {
+    if (myFault.empty() && (!Flush(Native(myHandle)) || !GiveBack(myHandle))) {
+        myFault = LastReason();
     }
-    return {};
 }
 
 char32_t LowerCase(char32_t pCharacter) {

@@ -74,7 +74,7 @@ std::string clsListViewRpt::Data(std::int16_t pRow, std::int16_t pCol) const {
     if (item == nullptr) {
         return {};
     }
-    return pCol == 0 ? item->Text() : item->SubItems(pCol);
+    return std::string(pCol == 0 ? item->Text() : item->SubItems(pCol));
 }
 
 void clsListViewRpt::Data(std::int16_t pRow, std::int16_t pCol, const std::string &pText) {
@@ -91,11 +91,7 @@ void clsListViewRpt::Data(std::int16_t pRow, std::int16_t pCol, const std::strin
 
 /// Inserts a copy of the selected item at place pIndex.
 void clsListViewRpt::CopySelectedTo(int pIndex) {
-    const ListItem &selected = *myLV->SelectedItem();
-    ListItem &copy = myLV->ListItems.Add(pIndex, selected.Text());
-    for (int i = 1; i <= selected.SubItemCount(); ++i) {
-        copy.SubItems(i, selected.SubItems(i));
-    }
+    myLV->ListItems.Add(pIndex, myLV->SelectedItem()->Texts());
 }
 
 void clsListViewRpt::MoveUp() {
@@ -125,11 +121,16 @@ void clsListViewRpt::Clear() {
     myLV->ListItems.Clear();
 }
 
-void clsListViewRpt::AddRow() {
-    ListItem &item = myLV->ListItems.Add("");
-    for (int i = 1; i < Cols(); ++i) {
-        item.SubItems(i, "");
+void clsListViewRpt::AddRow(TextRow pCells) {
+    if (pCells.Count() < Cols()) {
+        pCells.Set(Cols(), "");
     }
+    myLV->ListItems.Add(std::move(pCells));
+}
+
+TextRow clsListViewRpt::Row(std::int16_t pRow) const {
+    const ListItem *item = Item(pRow);
+    return item == nullptr ? TextRow() : item->Texts();
 }
 
 void clsListViewRpt::Del() {

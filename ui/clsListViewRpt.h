@@ -2,6 +2,8 @@
 /// A list control in report view as a grid of text: rows and columns from 0, one selected row, rows moved up
 /// and down, columns whose widths are shares of the control's. The control is the store; a condition that a
 /// caller breaks (a cell that isn't there) reads as empty or does nothing.
+#include "platform/TextRow.h"
+
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -41,8 +43,10 @@ public:
 
     /// Removes all rows. Columns and shares stay.
     void Clear();
-    /// Appends a row of empty texts.
-    void AddRow();
+    /// Appends a row of the texts pCells, column c at place c + 1; those that are missing are empty.
+    void AddRow(TextRow pCells = {});
+    /// All texts of row pRow at once, column c at place c + 1.
+    TextRow Row(std::int16_t pRow) const;
     /// Removes the selected row, if there is one.
     void Del();
 

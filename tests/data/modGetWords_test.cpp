@@ -20,10 +20,10 @@ TEST(GetWords, SplitsALineByItsCommasAndQuotes) {
         {"a\n", ""},                {"a,\"", ""},               {"\"a\"\"", ""}};
     // clang-format on
     for (const auto &[line, wanted] : lines) {
-        const std::vector<std::string> words = modGetWords::GetWords(line);
+        const TextRow words = modGetWords::GetWords(line);
         std::string text;
-        for (std::size_t i = 1; i < words.size(); ++i) {
-            text += "|" + words[i];
+        for (int i = 1; i <= words.Count(); ++i) {
+            text += "|" + std::string(words(i));
         }
         EXPECT_EQ(text, wanted) << testing::PrintToString(line);
     }

@@ -33,7 +33,7 @@ Bench::Bench() {
     list.ColumnHeaders.Add("Name");
     list.ColumnHeaders.Width(1, 3000);
     for (const char *entry : {"Abacus", "Apple", "Banana"}) {
-        list.ListItems.Add(entry);
+        list.ListItems.Add({}).Text(entry);
         fruit.AddItem(entry);
     }
 

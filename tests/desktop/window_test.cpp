@@ -64,13 +64,13 @@ TEST_F(Records, arePickedByTheKeysAndByAssistiveTechnology) {
 
 TEST_F(Records, stayWhereTheyAreOnTheScreenWhenOthersChange) {
     for (int row = 0; row < 100; ++row) {
-        list.ListItems.Add("more");
+        list.ListItems.Add({}).Text("more");
     }
     list.SelectedItem(&list.ListItems(60));
     Sync();
     EXPECT_EQ(table->verticalScrollBar()->value(), 0) << "a selection by the program doesn't scroll";
     table->verticalScrollBar()->setValue(58);
-    list.ListItems.Add("last");
+    list.ListItems.Add({}).Text("last");
     Sync();
     EXPECT_EQ(table->verticalScrollBar()->value(), 58);
     EXPECT_EQ(Selected(), 60);

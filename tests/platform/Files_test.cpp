@@ -35,14 +35,40 @@ TEST(Files, DirFindsFilesAndNothingElse) {
 #endif
 }
 
-TEST(Files, OutputReplacesTheFileAtCloseAndNotBefore) {
+TEST(Files, LinesAndItemsAreWholeWhereverABlockEnds) {
+    // A line longer than any block, and behind it CR LF at every place around the end of a block.
+    const std::string start = "1 , 2,x\r\n" + std::string(200'000, 'a') + "\r\n";
     const TemporaryFolder folder;
-    folder.Write("sub/out.dat", "much longer than what comes");
+    for (int shift = 0; shift < 4; ++shift) {
+        std::string bytes = start;
+        Texts wanted = {"x", std::string(200'000, 'a')};
+        while (bytes.size() < 800'000) {
+            wanted.emplace_back(static_cast<std::size_t>(wanted.size() % 5 == 0 ? shift : 2), 'b');
+            bytes += wanted.back() + "\r\n";
+        }
+        TextInput input(folder.Write("lines.txt", bytes));
+        EXPECT_EQ(input.InputItem(), "1");
+        EXPECT_EQ(input.InputItem(), "2");
+        Texts lines;
+        while (!input.AtEnd()) {
+            lines.emplace_back(input.LineInput());
+        }
+        EXPECT_TRUE(lines == wanted) << shift;
+    }
+}
+
+TEST(Files, OutputReplacesTheFileByAllThatWasPrinted) {
+    const TemporaryFolder folder;
+    folder.Write("sub/out.dat", std::string(1'000'000, 'x'));
     TextOutput output(folder.File("sub\\out.dat"));
-    output.Print("a\xFF\0"s);
-    output.PrintLine("b\n");
-    EXPECT_EQ(folder.Read("sub/out.dat"), "much longer than what comes");
+    std::string wanted;
+    for (const std::size_t length : {3U, 65'536U, 65'535U, 200'000U, 1U}) {
+        const std::string text = std::string(length, 'a') + "\xFF\0"s;
+        output.Print(text);
+        output.PrintLine("b\n");
+        wanted += text + "b\n\r\n";
+    }
     EXPECT_EQ(output.Close().reason, "");
-    EXPECT_EQ(folder.Read("sub/out.dat"), "a\xFF\0b\n\r\n"s);
+    EXPECT_TRUE(folder.Read("sub/out.dat") == wanted);
     EXPECT_NE(TextOutput(folder.File("sub/out.dat\0"s)).Close().reason, "");
 }

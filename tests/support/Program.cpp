@@ -141,9 +141,9 @@ std::string Program::Rows() const {
     std::string text;
     for (int i = 1; i <= list.ListItems.Count(); ++i) {
         const ListItem &item = list.ListItems(i);
-        text += (i == list.SelectedIndex() ? "> " : "  ") + item.Text();
+        text += (i == list.SelectedIndex() ? "> " : "  ") + std::string(item.Text());
         for (int c = 1; c <= item.SubItemCount(); ++c) {
-            text += "|" + item.SubItems(c);
+            text += "|" + std::string(item.SubItems(c));
         }
         text += "\n";
     }
