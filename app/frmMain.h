@@ -89,6 +89,7 @@ private:
     void cmdMoveDown_Click();
     void ListView1_ItemClick();
     Control &Field(std::int16_t pIndex) const;
+    TextRow TextsOfFields() const;
 
     // Files and leaving.
     void AppOpen(const std::string &pFn);

@@ -84,8 +84,9 @@ private:
     void LoadCsv(bool pHasHeaders);
     void SaveDat();
     void SaveCsv(bool pHasHeaders);
-    /// Adds pField to pLine in the form that it has on disk.
-    static void Quote(std::string &pLine, std::string_view pField);
+    /// Puts pField to pTo in the form that it has on disk, and returns the end of it. There has to be room
+    /// for shortTextBytes more than that form has.
+    static char *Quote(std::string_view pField, bool pHasQuotes, const char *pReadableEnd, char *pTo);
 
     void StopWithoutFileName() const;
     bool TakeFaultOf(const TextInput &pFile);
@@ -95,9 +96,10 @@ private:
     void EmptyTable(int pCols);
     void Refuse(Fault::Kind pKind, const std::string &pText);
 
-    /// pLine is room for the line, which goes from row to row.
+    std::string RoomForLines(const TextRow &pTitles) const;
+    /// pLine is such room.
     void PrintRow(TextOutput &pFile, const TextRow &pCells, std::string &pLine) const;
-    void PrintRows(TextOutput &pFile) const;
+    void PrintRows(TextOutput &pFile, std::string &pLine) const;
     void Finish(TextOutput &pFile);
 
     bool IsStored(int pRow, int pCol) const;

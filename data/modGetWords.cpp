@@ -2,131 +2,87 @@
 
 #include "platform/Text.h"
 
-#include <algorithm>
-
 namespace modGetWords {
 
 namespace {
 
-constexpr std::size_t mostKept = std::size_t{mostWords} + 1;
+enum class State { BetweenWords, InQuotes, BehindQuote, InPlainWord };
 
-/// Goes through a line in runs of characters that mean the same, not in single ones.
-class Splitter {
-public:
-    explicit Splitter(std::string_view pLine);
-    TextRow Words() &&;
-
-private:
-    enum class State { BetweenWords, InQuotes, BehindQuote, InPlainWord, Malformed };
-
-    State BetweenWords();
-    State InQuotes();
-    State BehindQuote();
-    State InPlainWord();
-    State Append(std::size_t pEnd);
-    /// The character at myAt. The line's last word is closed by one, as the others are.
-    char Current() const { return myAt < myLine.size() ? myLine[myAt] : '\n'; }
-
-    std::string_view myLine;
-    std::size_t myAt = 0;
-    std::size_t myFrom = 0;  ///< where the part of the word begins that is not in myParts
-    std::size_t myQuote = 0; ///< the quote that ends the word, unless another one follows it
-    std::string myParts;     ///< the word as far as its doubled quotes go
-    std::string myRun;
-    std::vector<std::size_t> myEnds;
-};
-
-Splitter::Splitter(std::string_view pLine) : myLine(pLine) {
-    const auto commas = static_cast<std::size_t>(std::count(pLine.begin(), pLine.end(), ','));
-    myRun.reserve(pLine.size());
-    myEnds.reserve(std::min(commas + 1, mostKept));
-}
-
-Splitter::State Splitter::Append(std::size_t pEnd) {
-    const std::string_view part = myLine.substr(myFrom, pEnd - myFrom);
-    if (myEnds.size() < mostKept) {
-        myRun += Trim(myParts.empty() ? part : myParts.append(part));
-        myEnds.push_back(myRun.size());
-    }
-    myParts.clear();
-    return State::BetweenWords;
-}
-
-Splitter::State Splitter::BetweenWords() {
-    const char character = Current();
-    myFrom = myAt;
-    switch (character) {
-    case ' ':
-        return State::BetweenWords;
-    case '"':
-        ++myFrom;
-        return State::InQuotes;
-    case ',':
-        return Append(myAt);
-    default:
-        return State::InPlainWord;
-    }
-}
-
-Splitter::State Splitter::InQuotes() {
-    myAt = std::min(myLine.find('"', myAt), myLine.size());
-    myQuote = myAt;
-    return myAt < myLine.size() ? State::BehindQuote : State::Malformed;
-}
-
-Splitter::State Splitter::BehindQuote() {
-    switch (Current()) {
-    case '"':
-        // The two quotes are one literal quote of the word, and blanks between them are the word's too.
-        myParts += myLine.substr(myFrom, myAt - myFrom);
-        myFrom = myAt + 1;
-        return State::InQuotes;
-    case ' ':
-        return State::BehindQuote;
-    case ',':
-    case '\n':
-        return Append(myQuote);
-    default:
-        return State::Malformed;
-    }
-}
-
-Splitter::State Splitter::InPlainWord() {
-    while (Current() != ',' && Current() != '\n') {
-        ++myAt;
-    }
-    return Append(myAt);
-}
-
-TextRow Splitter::Words() && {
-    State state = State::BetweenWords;
-    for (; myAt <= myLine.size(); ++myAt) {
-        switch (state) {
-        case State::BetweenWords:
-            state = BetweenWords();
-            break;
-        case State::InQuotes:
-            state = InQuotes();
-            break;
-        case State::BehindQuote:
-            state = BehindQuote();
-            break;
-        case State::InPlainWord:
-            state = InPlainWord();
-            break;
-        case State::Malformed:
-            return {};
-        }
-    }
-    // Between words the character behind the line opens a word that is never closed, which is why a line that
-    // ends in a comma has no words.
-    return state == State::BetweenWords ? TextRow(myRun, myEnds) : TextRow();
+bool EndsWord(char pCharacter) {
+    return pCharacter == ',' || pCharacter == '\n';
 }
 
 } // namespace
 
-TextRow GetWords(std::string_view pLine) {
-    return Splitter(pLine).Words();
+TextRow GetWords(std::string_view pLine, TextRowBuilder &pBuilder) {
+    const char *const end = pLine.data() + pLine.size();
+    const char *from = nullptr;  // where the word begins, or the part of it behind its last doubled quote
+    const char *quote = nullptr; // the quote that ends the word, unless another one follows it
+    std::string parts;           // the word up to its last doubled quote
+    State state = State::BetweenWords;
+    pBuilder.Begin(pLine.size());
+    for (const char *at = pLine.data(); at <= end; ++at) {
+        // The last word of a line is closed by a character, as the others are.
+        const char character = at < end ? *at : '\n';
+        const char *wordEnd = nullptr;
+        switch (state) {
+        case State::BetweenWords:
+            from = at;
+            if (character == '"') {
+                ++from;
+                state = State::InQuotes;
+            } else if (character == ',') {
+                wordEnd = at;
+            } else if (character != ' ') {
+                state = State::InPlainWord;
+            }
+            break;
+        case State::InQuotes: // Whatever stands there, up to the next quote.
+            at = static_cast<const char *>(std::memchr(at, '"', static_cast<std::size_t>(end - at)));
+            if (at == nullptr) {
+                return {};
+            }
+            quote = at;
+            state = State::BehindQuote;
+            break;
+        case State::BehindQuote:
+            if (EndsWord(character)) {
+                wordEnd = quote;
+            } else if (character == '"') {
+                // The two quotes are one literal quote of the word, and blanks between them are the word's
+                // too.
+                parts.append(from, at);
+                from = at + 1;
+                state = State::InQuotes;
+            } else if (character != ' ') {
+                return {};
+            }
+            break;
+        case State::InPlainWord:
+            if (EndsWord(character)) {
+                wordEnd = at;
+            }
+            break;
+        }
+        if (wordEnd == nullptr) {
+            continue;
+        }
+        state = State::BetweenWords;
+        if (pBuilder.Count() > mostWords) {
+            continue;
+        }
+        const std::string_view part(from, static_cast<std::size_t>(wordEnd - from));
+        if (parts.empty()) {
+            pBuilder.Append(Trim(part), end);
+        } else {
+            parts += part;
+            pBuilder.Append(Trim(parts), parts.data() + parts.size());
+            parts.clear();
+        }
+    }
+    // Between words the character behind the line opens a word that is never closed, which is why a line that
+    // ends in a comma has no words.
+    return state == State::BetweenWords ? pBuilder.Row() : TextRow();
 }
 
 } // namespace modGetWords

@@ -11,7 +11,12 @@ namespace modGetWords {
 inline constexpr int mostWords = 32767;
 
 /// The words of pLine (given without its line end), at the places 1 and up. A line that makes no sense gives
-/// no words. Of a line of more than mostWords words one more than that is kept, which fits no table.
-TextRow GetWords(std::string_view pLine);
+/// no words. Of a line of more than mostWords words one more than that is kept, which fits no table. pBuilder
+/// is room that serves line after line.
+TextRow GetWords(std::string_view pLine, TextRowBuilder &pBuilder);
+inline TextRow GetWords(std::string_view pLine) {
+    TextRowBuilder builder;
+    return GetWords(pLine, builder);
+}
 
 } // namespace modGetWords

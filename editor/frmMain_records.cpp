@@ -14,6 +14,14 @@ Control &frmMain::Field(std::int16_t pIndex) const {
     return myForm.Controls("cbo" + FormatWhole(pIndex + firstFieldNumber));
 }
 
+TextRow frmMain::TextsOfFields() const {
+    std::vector<std::string> texts;
+    for (std::int16_t i = 0; i < mySpec->Rows(); ++i) {
+        texts.push_back(Field(i).Text());
+    }
+    return TextRow(texts);
+}
+
 void frmMain::cmdAdd_Click() {
     const std::string caption = cmdAdd.Caption();
     if (caption == "Add") {
@@ -31,11 +39,7 @@ void frmMain::AddRecord() {
         TellFault("The list is full: it holds at most " + std::to_string(mostRecords) + " records.");
         return;
     }
-    TextRow texts;
-    for (std::int16_t c = 0; c < mySpec->Rows(); ++c) {
-        texts.Set(c + 1, Field(c).Text());
-    }
-    ListView1.ListItems.Add(std::move(texts));
+    ListView1.ListItems.Add(TextsOfFields());
 }
 
 void frmMain::UpdateRecord() {
@@ -43,11 +47,9 @@ void frmMain::UpdateRecord() {
     if (!HasSelection()) {
         return;
     }
-    const auto r = static_cast<std::int16_t>(ListView1.SelectedItem()->Index() - 1);
+    ListView1.SelectedItem()->Texts(TextsOfFields());
     for (std::int16_t i = 0; i < mySpec->Rows(); ++i) {
-        Control &field = Field(i);
-        myRpt->Data(r, i, field.Text());
-        field.Text("");
+        Field(i).Text("");
     }
 }
 

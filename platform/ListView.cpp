@@ -2,6 +2,11 @@
 
 #include <algorithm>
 
+void ListItem::Texts(TextRow pTexts) {
+    myTexts = std::move(pTexts);
+    myOwner.RowsChanged();
+}
+
 void ListItem::SetText(int pPlace, std::string_view pText) {
     myTexts.Set(pPlace, pText);
     myOwner.RowsChanged();

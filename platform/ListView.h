@@ -39,6 +39,7 @@ public:
 
     /// Text and sub items, the text at place 1.
     const TextRow &Texts() const { return myTexts; }
+    void Texts(TextRow pTexts);
 
 private:
     void SetText(int pPlace, std::string_view pText);

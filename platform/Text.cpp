@@ -107,14 +107,6 @@ void AppendUtf8(std::string &pText, char32_t pCharacter) {
     }
 }
 
-std::string_view Trim(std::string_view pText) {
-    const std::size_t first = pText.find_first_not_of(' ');
-    if (first == std::string_view::npos) {
-        return {};
-    }
-    return pText.substr(first, pText.find_last_not_of(' ') - first + 1);
-}
-
 std::string LCase(std::string_view pText) {
     std::string lower;
     lower.reserve(pText.size());

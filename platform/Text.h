@@ -20,7 +20,15 @@ CodePoint CodePointAt(std::string_view pText, std::size_t pAt);
 void AppendUtf8(std::string &pText, char32_t pCharacter);
 
 /// pText without the blanks (U+0020 only) at both ends.
-std::string_view Trim(std::string_view pText);
+inline std::string_view Trim(std::string_view pText) {
+    while (!pText.empty() && pText.front() == ' ') {
+        pText.remove_prefix(1);
+    }
+    while (!pText.empty() && pText.back() == ' ') {
+        pText.remove_suffix(1);
+    }
+    return pText;
+}
 
 /// pText in lower case, character by character, by the system's own rule for Unicode.
 std::string LCase(std::string_view pText);

@@ -1,8 +1,11 @@
 #pragma once
-/// A row of texts, such as the cells of a record. They stand one behind another in a single string, with the
-/// end of each kept beside it, and copies of a row share both until one of them is changed. So a record that
-/// goes from a file into a table and on into a list is in memory once.
+/// A row of texts, such as the cells of a record, in one block of memory: where each text ends, and behind
+/// that the texts one after another. The block never changes, so copies of a row share it, and a record that
+/// goes from a file into a table and on into a list is in memory once. To set a text is to make another
+/// block.
+#include <algorithm>
 #include <cstddef>
+#include <cstring>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -12,38 +15,72 @@ class TextRow {
 public:
     /// No texts.
     TextRow() = default;
-    /// The texts that stand one behind another in pRun, each up to its place in pEnds, which rises to the
+    /// The texts that stand one after another in pRun, each up to its place in pEnds, which rises to the
     /// length of pRun.
     TextRow(std::string_view pRun, const std::vector<std::size_t> &pEnds);
+    explicit TextRow(const std::vector<std::string> &pTexts);
 
-    int Count() const { return myTexts == nullptr ? 0 : static_cast<int>(myTexts->ends.size()); }
+    int Count() const { return myCount; }
 
-    /// Text pPlace, from 1; empty where there is none. It holds until this row is changed.
+    /// Text pPlace, from 1; empty where there is none. It holds as long as this row or a copy does.
     std::string_view operator()(int pPlace) const;
 
-    /// Sets text pPlace, from 1, and makes it and those before it where they are missing.
+    /// All texts, one after another.
+    std::string_view Run() const { return {Begin(), myCount == 0 ? 0 : myBlock[myCount - 1]}; }
+
+    /// Sets text pPlace, from 1, and makes those before it where they are missing.
     void Set(int pPlace, std::string_view pText);
 
-    /// Whether both are copies of one row, neither of them changed since.
-    bool Shares(const TextRow &pOther) const { return myTexts == pOther.myTexts; }
+    /// Whether both are copies of one row.
+    bool Shares(const TextRow &pOther) const { return myBlock == pOther.myBlock; }
 
 private:
-    struct Texts {
-        std::string run;
-        std::vector<std::size_t> ends;
-    };
+    const char *Begin() const { return reinterpret_cast<const char *>(myBlock.get() + myCount); }
 
-    /// Makes the texts this row's own, to be changed.
-    Texts &Own();
-
-    std::shared_ptr<Texts> myTexts; ///< nothing while there are no texts
+    std::shared_ptr<const std::size_t[]> myBlock; ///< nothing while there are no texts
+    int myCount = 0;
 };
 
 inline std::string_view TextRow::operator()(int pPlace) const {
-    if (pPlace < 1 || pPlace > Count()) {
-        return {};
+    if (pPlace < 1 || pPlace > myCount) {
+        return Run().substr(Run().size());
     }
-    const auto last = static_cast<std::size_t>(pPlace) - 1;
-    const std::size_t from = last == 0 ? 0 : myTexts->ends[last - 1];
-    return {myTexts->run.data() + from, myTexts->ends[last] - from};
+    const std::size_t from = pPlace == 1 ? 0 : myBlock[pPlace - 2];
+    return {Begin() + from, myBlock[pPlace - 1] - from};
 }
+
+/// Up to this many bytes CopyText copies at once.
+inline constexpr std::size_t shortTextBytes = 32;
+
+/// Copies pText, behind which memory can be read up to pReadableEnd, to pTo, and returns the end of the copy.
+/// Cells are mostly short: to copy as many bytes as no short text has takes less time than to find out, text
+/// by text, how few would do. So pTo needs room for shortTextBytes more than pText has, and what the copy
+/// leaves behind its end has no meaning.
+inline char *CopyText(std::string_view pText, const char *pReadableEnd, char *pTo) {
+    const auto readable = static_cast<std::size_t>(pReadableEnd - pText.data());
+    if (pText.size() <= shortTextBytes && readable >= shortTextBytes) {
+        std::memcpy(pTo, pText.data(), shortTextBytes);
+        return pTo + pText.size();
+    }
+    return std::copy(pText.begin(), pText.end(), pTo);
+}
+
+/// Makes rows, one after another in the same room, of texts that come one after another.
+class TextRowBuilder {
+public:
+    /// Begins a row of at most pMostBytes.
+    void Begin(std::size_t pMostBytes);
+    /// Adds pText, behind which memory can be read up to pReadableEnd.
+    void Append(std::string_view pText, const char *pReadableEnd) {
+        myEnd = CopyText(pText, pReadableEnd, myEnd);
+        myEnds.push_back(static_cast<std::size_t>(myEnd - myRoom.data()));
+    }
+    /// How many texts the row has so far.
+    int Count() const { return static_cast<int>(myEnds.size()); }
+    TextRow Row() const;
+
+private:
+    std::string myRoom;
+    char *myEnd = nullptr;
+    std::vector<std::size_t> myEnds;
+};

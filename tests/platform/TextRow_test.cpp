@@ -14,8 +14,8 @@ std::string InWords(const TextRow &pRow) {
 
 } // namespace
 
-TEST(TextRow, CopiesShareTheirTextsUntilOneIsChanged) {
-    TextRow row("onethree", {3, 3, 8});
+TEST(TextRow, ACopyKeepsItsTextsWhenTheOtherOneChanges) {
+    TextRow row(std::vector<std::string>{"one", "", "three"});
     const TextRow copy = row;
     EXPECT_TRUE(row.Shares(copy));
     row.Set(1, "a longer one");
