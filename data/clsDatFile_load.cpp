@@ -62,7 +62,7 @@ void clsDatFile::LoadDat() {
 }
 
 void clsDatFile::TakeAnnouncedRowsFrom(TextInput &pFile) {
-    TextRowBuilder builder;
+    TextRowRoom room;
     for (std::int16_t row = 0; row < myRows; ++row) {
         if (pFile.AtEnd()) {
             Refuse(Fault::Kind::WrongSize, "is too short. Its first line announces " +
@@ -72,7 +72,7 @@ void clsDatFile::TakeAnnouncedRowsFrom(TextInput &pFile) {
             myData.resize(static_cast<std::size_t>(row));
             return;
         }
-        TextRow words = modGetWords::GetWords(pFile.LineInput(), builder);
+        TextRow words = modGetWords::GetWords(pFile.LineInput(), room);
         if (words.Count() != myCols) {
             return; // The rows from here on stay empty, and myRows stays as announced.
         }
@@ -81,10 +81,10 @@ void clsDatFile::TakeAnnouncedRowsFrom(TextInput &pFile) {
 }
 
 void clsDatFile::TakeRowsUpToARaggedOne(TextInput &pFile) {
-    TextRowBuilder builder;
+    TextRowRoom room;
     const int cols = myData.front().Count();
     while (!pFile.AtEnd() && std::cmp_less_equal(myData.size(), mostRows)) {
-        TextRow words = modGetWords::GetWords(pFile.LineInput(), builder);
+        TextRow words = modGetWords::GetWords(pFile.LineInput(), room);
         if (words.Count() != cols) {
             break; // The table ends before this line.
         }

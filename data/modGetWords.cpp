@@ -2,9 +2,13 @@
 
 #include "platform/Text.h"
 
+#include <algorithm>
+
 namespace modGetWords {
 
 namespace {
+
+constexpr std::size_t mostKept = std::size_t{mostWords} + 1;
 
 enum class State { BetweenWords, InQuotes, BehindQuote, InPlainWord };
 
@@ -14,13 +18,17 @@ bool EndsWord(char pCharacter) {
 
 } // namespace
 
-TextRow GetWords(std::string_view pLine, TextRowBuilder &pBuilder) {
+TextRow GetWords(std::string_view pLine, TextRowRoom &pRoom) {
     const char *const end = pLine.data() + pLine.size();
     const char *from = nullptr;  // where the word begins, or the part of it behind its last doubled quote
     const char *quote = nullptr; // the quote that ends the word, unless another one follows it
     std::string parts;           // the word up to its last doubled quote
     State state = State::BetweenWords;
-    pBuilder.Begin(pLine.size());
+    pRoom.Reserve(pLine.size(), std::min(pLine.size(), mostKept) + 1);
+    char *const run = pRoom.run.data();
+    char *runEnd = run;
+    std::size_t *const ends = pRoom.ends.data();
+    std::size_t count = 0;
     for (const char *at = pLine.data(); at <= end; ++at) {
         // The last word of a line is closed by a character, as the others are.
         const char character = at < end ? *at : '\n';
@@ -68,21 +76,22 @@ TextRow GetWords(std::string_view pLine, TextRowBuilder &pBuilder) {
             continue;
         }
         state = State::BetweenWords;
-        if (pBuilder.Count() > mostWords) {
+        if (count == mostKept) {
             continue;
         }
         const std::string_view part(from, static_cast<std::size_t>(wordEnd - from));
         if (parts.empty()) {
-            pBuilder.Append(Trim(part), end);
+            runEnd = CopyText(Trim(part), end, runEnd);
         } else {
             parts += part;
-            pBuilder.Append(Trim(parts), parts.data() + parts.size());
+            runEnd = CopyText(Trim(parts), parts.data() + parts.size(), runEnd);
             parts.clear();
         }
+        ends[count++] = static_cast<std::size_t>(runEnd - run);
     }
     // Between words the character behind the line opens a word that is never closed, which is why a line that
     // ends in a comma has no words.
-    return state == State::BetweenWords ? pBuilder.Row() : TextRow();
+    return state == State::BetweenWords ? TextRow({run, runEnd}, {ends, count}) : TextRow();
 }
 
 } // namespace modGetWords

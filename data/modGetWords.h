@@ -11,12 +11,12 @@ namespace modGetWords {
 inline constexpr int mostWords = 32767;
 
 /// The words of pLine (given without its line end), at the places 1 and up. A line that makes no sense gives
-/// no words. Of a line of more than mostWords words one more than that is kept, which fits no table. pBuilder
+/// no words. Of a line of more than mostWords words one more than that is kept, which fits no table. pRoom
 /// is room that serves line after line.
-TextRow GetWords(std::string_view pLine, TextRowBuilder &pBuilder);
+TextRow GetWords(std::string_view pLine, TextRowRoom &pRoom);
 inline TextRow GetWords(std::string_view pLine) {
-    TextRowBuilder builder;
-    return GetWords(pLine, builder);
+    TextRowRoom room;
+    return GetWords(pLine, room);
 }
 
 } // namespace modGetWords

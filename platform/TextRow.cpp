@@ -2,7 +2,7 @@
 
 #include <utility>
 
-TextRow::TextRow(std::string_view pRun, const std::vector<std::size_t> &pEnds)
+TextRow::TextRow(std::string_view pRun, std::span<const std::size_t> pEnds)
     : myCount(static_cast<int>(pEnds.size())) {
     if (pEnds.empty()) {
         return;
@@ -37,14 +37,11 @@ void TextRow::Set(int pPlace, std::string_view pText) {
     *this = TextRow(run, ends);
 }
 
-void TextRowBuilder::Begin(std::size_t pMostBytes) {
-    if (myRoom.size() < pMostBytes + shortTextBytes) {
-        myRoom.resize(pMostBytes + shortTextBytes);
+void TextRowRoom::Reserve(std::size_t pMostBytes, std::size_t pMostTexts) {
+    if (run.size() < pMostBytes + shortTextBytes) {
+        run.resize(pMostBytes + shortTextBytes);
     }
-    myEnd = myRoom.data();
-    myEnds.clear();
-}
-
-TextRow TextRowBuilder::Row() const {
-    return {std::string_view(myRoom).substr(0, static_cast<std::size_t>(myEnd - myRoom.data())), myEnds};
+    if (ends.size() < pMostTexts) {
+        ends.resize(pMostTexts);
+    }
 }

@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <cstring>
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -17,7 +18,7 @@ public:
     TextRow() = default;
     /// The texts that stand one after another in pRun, each up to its place in pEnds, which rises to the
     /// length of pRun.
-    TextRow(std::string_view pRun, const std::vector<std::size_t> &pEnds);
+    TextRow(std::string_view pRun, std::span<const std::size_t> pEnds);
     explicit TextRow(const std::vector<std::string> &pTexts);
 
     int Count() const { return myCount; }
@@ -65,22 +66,11 @@ inline char *CopyText(std::string_view pText, const char *pReadableEnd, char *pT
     return std::copy(pText.begin(), pText.end(), pTo);
 }
 
-/// Makes rows, one after another in the same room, of texts that come one after another.
-class TextRowBuilder {
-public:
-    /// Begins a row of at most pMostBytes.
-    void Begin(std::size_t pMostBytes);
-    /// Adds pText, behind which memory can be read up to pReadableEnd.
-    void Append(std::string_view pText, const char *pReadableEnd) {
-        myEnd = CopyText(pText, pReadableEnd, myEnd);
-        myEnds.push_back(static_cast<std::size_t>(myEnd - myRoom.data()));
-    }
-    /// How many texts the row has so far.
-    int Count() const { return static_cast<int>(myEnds.size()); }
-    TextRow Row() const;
+/// Memory in which the texts of a row are gathered, row after row.
+struct TextRowRoom {
+    std::string run;
+    std::vector<std::size_t> ends;
 
-private:
-    std::string myRoom;
-    char *myEnd = nullptr;
-    std::vector<std::size_t> myEnds;
+    /// Makes room for pMostTexts texts of pMostBytes in all, and for what CopyText needs.
+    void Reserve(std::size_t pMostBytes, std::size_t pMostTexts);
 };
