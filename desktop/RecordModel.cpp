@@ -17,14 +17,20 @@ int RecordModel::columnCount(const QModelIndex &pParent) const {
     return pParent.isValid() ? 0 : myToldColumns;
 }
 
-QVariant RecordModel::data(const QModelIndex &pIndex, int pRole) const {
+std::string_view RecordModel::Cell(const QModelIndex &pIndex) const {
     const bool isThere = pIndex.isValid() && pIndex.row() < myList.ListItems.Count();
-    if (!isThere || (pRole != Qt::DisplayRole && pRole != Qt::AccessibleTextRole)) {
+    return isThere ? myList.ListItems(pIndex.row() + 1).Texts()(pIndex.column() + 1) : std::string_view();
+}
+
+QVariant RecordModel::data(const QModelIndex &pIndex, int pRole) const {
+    switch (pRole) {
+    case Qt::DisplayRole:
+        return ToQtLine(Cell(pIndex), mostShown);
+    case Qt::AccessibleTextRole:
+        return ToQt(Cell(pIndex));
+    default:
         return {};
     }
-    const ListItem &item = myList.ListItems(pIndex.row() + 1);
-    const std::string_view cell = pIndex.column() == 0 ? item.Text() : item.SubItems(pIndex.column());
-    return pRole == Qt::DisplayRole ? ToQtLine(cell, mostShown) : ToQt(cell);
 }
 
 QVariant RecordModel::headerData(int pSection, Qt::Orientation pOrientation, int pRole) const {

@@ -12,6 +12,9 @@ public:
     /// asks for beyond the new ones is empty. Selection, current row and scroll position don't survive this.
     void Reset();
 
+    /// The text of a cell; empty when it isn't there.
+    std::string_view Cell(const QModelIndex &pIndex) const;
+
     int rowCount(const QModelIndex &pParent = {}) const override;
     int columnCount(const QModelIndex &pParent = {}) const override;
     QVariant data(const QModelIndex &pIndex, int pRole = Qt::DisplayRole) const override;
