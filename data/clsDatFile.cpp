@@ -4,6 +4,7 @@
 #include "platform/Numbers.h"
 #include "platform/Runtime.h"
 
+#include <new>
 #include <utility>
 
 namespace {
@@ -92,35 +93,46 @@ void clsDatFile::Clear() {
 
 void clsDatFile::Load() {
     myFault = {};
-    switch (myFmt) {
-    case fmtDat:
-        LoadDat();
-        break;
-    case fmtCsv:
-        LoadCsv(/*pHasHeaders=*/false);
-        break;
-    case fmtCsvWithHeaders:
-        LoadCsv(/*pHasHeaders=*/true);
-        break;
-    default:
-        break;
+    try {
+        switch (myFmt) {
+        case fmtDat:
+            LoadDat();
+            break;
+        case fmtCsv:
+            LoadCsv(/*pHasHeaders=*/false);
+            break;
+        case fmtCsvWithHeaders:
+            LoadCsv(/*pHasHeaders=*/true);
+            break;
+        default:
+            break;
+        }
+    } catch (const std::bad_alloc &) {
+        EmptyTable(0);
+        Refuse(Fault::Kind::NotRead, "can't be read: There is not enough memory for it.");
     }
 }
 
 void clsDatFile::Save() {
     myFault = {};
-    switch (myFmt) {
-    case fmtDat:
-        SaveDat();
-        break;
-    case fmtCsv:
-        SaveCsv(/*pHasHeaders=*/false);
-        break;
-    case fmtCsvWithHeaders:
-        SaveCsv(/*pHasHeaders=*/true);
-        break;
-    default:
-        break;
+    try {
+        switch (myFmt) {
+        case fmtDat:
+            SaveDat();
+            break;
+        case fmtCsv:
+            SaveCsv(/*pHasHeaders=*/false);
+            break;
+        case fmtCsvWithHeaders:
+            SaveCsv(/*pHasHeaders=*/true);
+            break;
+        default:
+            break;
+        }
+    } catch (const std::bad_alloc &) {
+        // What memory is needed is got before the file is touched.
+        Refuse(Fault::Kind::NotSaved,
+               "can't be saved: There is not enough memory for it. The records are still in the list.");
     }
 }
 

@@ -96,10 +96,9 @@ private:
     void EmptyTable(int pCols);
     void Refuse(Fault::Kind pKind, const std::string &pText);
 
-    std::string RoomForLines(const TextRow &pTitles) const;
-    /// pLine is such room.
-    void PrintRow(TextOutput &pFile, const TextRow &pCells, std::string &pLine) const;
-    void PrintRows(TextOutput &pFile, std::string &pLine) const;
+    std::size_t MostLineBytes(const TextRow &pTitles) const;
+    void PrintRow(TextOutput &pFile, const TextRow &pCells) const;
+    void PrintRows(TextOutput &pFile) const;
     void Finish(TextOutput &pFile);
 
     bool IsStored(int pRow, int pCol) const;

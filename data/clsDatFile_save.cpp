@@ -34,35 +34,44 @@ char *clsDatFile::Quote(std::string_view pField, bool pHasQuotes, const char *pR
     return pTo;
 }
 
-/// Room for the longest line, made before the file is touched: memory must not run out in the middle of it.
-std::string clsDatFile::RoomForLines(const TextRow &pTitles) const {
+/// As much room as any line needs: all bytes of a cell may be doubled, and three more come with it.
+std::size_t clsDatFile::MostLineBytes(const TextRow &pTitles) const {
     std::size_t most = pTitles.Run().size();
     for (const TextRow &row : myData) {
         most = std::max(most, row.Run().size());
     }
-    return std::string(2 * most + 3 * static_cast<std::size_t>(myCols) + shortTextBytes, '\0');
+    constexpr std::size_t sizes = 16; // of the .dat form's first line
+    return std::max(sizes, 2 * most + 3 * static_cast<std::size_t>(myCols)) + shortTextBytes;
 }
 
-void clsDatFile::PrintRow(TextOutput &pFile, const TextRow &pCells, std::string &pLine) const {
-    const char *const end = pCells.Run().data() + pCells.Run().size();
-    const char *quote = NextQuote(pCells.Run().data(), end); // Of the whole row: most cells have none.
-    char *to = pLine.data();
-    for (int place = 1; place <= myCols; ++place) {
-        const std::string_view cell = pCells(place);
-        const char *const cellEnd = cell.data() + cell.size();
+void clsDatFile::PrintRow(TextOutput &pFile, const TextRow &pCells) const {
+    const auto cols = static_cast<std::size_t>(myCols);
+    const std::span<const TextRow::Place> ends = pCells.Ends().first(std::min(cols, pCells.Ends().size()));
+    const char *cell = pCells.Run().data();
+    const char *const run = cell;
+    const char *const end = run + pCells.Run().size();
+    const char *quote = NextQuote(run, end); // In the whole row: most cells have none.
+    char *to = pFile.BeginLine();
+    for (const TextRow::Place place : ends) {
+        const char *const cellEnd = run + place;
         const bool hasQuotes = quote < cellEnd;
-        to = Quote(cell, hasQuotes, end, to);
+        to = Quote({cell, cellEnd}, hasQuotes, end, to);
         quote = hasQuotes ? NextQuote(cellEnd, end) : quote;
         *to++ = ',';
+        cell = cellEnd;
     }
-    to -= myCols > 0 ? 1 : 0; // Behind the last field there is none.
-    pFile.PrintLine(std::string_view(pLine.data(), static_cast<std::size_t>(to - pLine.data())));
+    for (std::size_t missing = ends.size(); missing < cols; ++missing) {
+        to = Quote({}, false, nullptr, to);
+        *to++ = ',';
+    }
+    to -= cols > 0 ? 1 : 0; // Behind the last field there is none.
+    pFile.EndLine(to);
 }
 
-void clsDatFile::PrintRows(TextOutput &pFile, std::string &pLine) const {
+void clsDatFile::PrintRows(TextOutput &pFile) const {
     for (std::int16_t row = 0; row < myRows; ++row) {
         const bool isStored = std::cmp_less(row, myData.size());
-        PrintRow(pFile, isStored ? myData[static_cast<std::size_t>(row)] : TextRow(), pLine);
+        PrintRow(pFile, isStored ? myData[static_cast<std::size_t>(row)] : TextRow());
     }
 }
 
@@ -70,10 +79,9 @@ void clsDatFile::SaveDat() {
     if (myFn.empty()) {
         return;
     }
-    std::string line = RoomForLines({});
-    TextOutput file(myFn);
+    TextOutput file(myFn, MostLineBytes({}));
     file.PrintLine(FormatWhole(myRows) + "," + FormatWhole(myCols));
-    PrintRows(file, line);
+    PrintRows(file);
     Finish(file);
 }
 
@@ -82,12 +90,11 @@ void clsDatFile::SaveCsv(bool pHasHeaders) {
         return;
     }
     const TextRow titles(myHeaders); // A row takes of them as many as it has fields; those missing are empty.
-    std::string line = RoomForLines(titles);
-    TextOutput file(myFn);
+    TextOutput file(myFn, MostLineBytes(titles));
     if (pHasHeaders) {
-        PrintRow(file, titles, line);
+        PrintRow(file, titles);
     }
-    PrintRows(file, line);
+    PrintRows(file);
     Finish(file);
 }
 

@@ -16,43 +16,69 @@ bool EndsWord(char pCharacter) {
     return pCharacter == ',' || pCharacter == '\n';
 }
 
+/// The words that a line has given so far.
+class Words {
+public:
+    Words(std::string_view pLine, TextRowRoom &pRoom) {
+        pRoom.Reserve(pLine.size(), std::min(pLine.size(), mostKept) + 1);
+        myRun = pRoom.run.data();
+        myRunEnd = myRun;
+        myEnds = pRoom.ends.data();
+    }
+
+    /// Adds pWord, behind which memory can be read up to pReadableEnd.
+    void Append(std::string_view pWord, const char *pReadableEnd) {
+        if (myCount < mostKept) {
+            myRunEnd = CopyText(Trim(pWord), pReadableEnd, myRunEnd);
+            myEnds[myCount++] = static_cast<TextRow::Place>(myRunEnd - myRun);
+        }
+    }
+
+    TextRow Row() const { return TextRow({myRun, myRunEnd}, {myEnds, myCount}); }
+
+private:
+    char *myRun;
+    char *myRunEnd;
+    TextRow::Place *myEnds;
+    std::size_t myCount = 0;
+};
+
 } // namespace
 
 TextRow GetWords(std::string_view pLine, TextRowRoom &pRoom) {
     const char *const end = pLine.data() + pLine.size();
+    // The last word of a line is closed by a character, as the others are.
+    const auto characterAt = [&](const char *pAt) { return pAt < end ? *pAt : '\n'; };
     const char *from = nullptr;  // where the word begins, or the part of it behind its last doubled quote
     const char *quote = nullptr; // the quote that ends the word, unless another one follows it
     std::string parts;           // the word up to its last doubled quote
+    Words words(pLine, pRoom);
     State state = State::BetweenWords;
-    pRoom.Reserve(pLine.size(), std::min(pLine.size(), mostKept) + 1);
-    char *const run = pRoom.run.data();
-    char *runEnd = run;
-    std::size_t *const ends = pRoom.ends.data();
-    std::size_t count = 0;
     for (const char *at = pLine.data(); at <= end; ++at) {
-        // The last word of a line is closed by a character, as the others are.
-        const char character = at < end ? *at : '\n';
+        char character = characterAt(at);
         const char *wordEnd = nullptr;
         switch (state) {
         case State::BetweenWords:
             from = at;
-            if (character == '"') {
-                ++from;
-                state = State::InQuotes;
-            } else if (character == ',') {
+            if (character == ',') {
                 wordEnd = at;
-            } else if (character != ' ') {
-                state = State::InPlainWord;
+                break;
             }
-            break;
+            if (character != '"') {
+                state = character == ' ' ? State::BetweenWords : State::InPlainWord;
+                break;
+            }
+            from = ++at;
+            [[fallthrough]];
         case State::InQuotes: // Whatever stands there, up to the next quote.
-            at = static_cast<const char *>(std::memchr(at, '"', static_cast<std::size_t>(end - at)));
-            if (at == nullptr) {
+            quote = static_cast<const char *>(std::memchr(at, '"', static_cast<std::size_t>(end - at)));
+            if (quote == nullptr) {
                 return {};
             }
-            quote = at;
+            at = quote + 1;
+            character = characterAt(at);
             state = State::BehindQuote;
-            break;
+            [[fallthrough]];
         case State::BehindQuote:
             if (EndsWord(character)) {
                 wordEnd = quote;
@@ -76,22 +102,17 @@ TextRow GetWords(std::string_view pLine, TextRowRoom &pRoom) {
             continue;
         }
         state = State::BetweenWords;
-        if (count == mostKept) {
-            continue;
-        }
-        const std::string_view part(from, static_cast<std::size_t>(wordEnd - from));
         if (parts.empty()) {
-            runEnd = CopyText(Trim(part), end, runEnd);
+            words.Append({from, wordEnd}, end);
         } else {
-            parts += part;
-            runEnd = CopyText(Trim(parts), parts.data() + parts.size(), runEnd);
+            parts.append(from, wordEnd);
+            words.Append(parts, parts.data() + parts.size());
             parts.clear();
         }
-        ends[count++] = static_cast<std::size_t>(runEnd - run);
     }
     // Between words the character behind the line opens a word that is never closed, which is why a line that
     // ends in a comma has no words.
-    return state == State::BetweenWords ? TextRow({run, runEnd}, {ends, count}) : TextRow();
+    return state == State::BetweenWords ? words.Row() : TextRow();
 }
 
 } // namespace modGetWords

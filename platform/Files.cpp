@@ -8,11 +8,7 @@ namespace {
 /// Enough that the system's calls cost nothing, and little enough to stay in the processor's cache.
 constexpr std::size_t blockBytes = std::size_t{64} << 10U;
 
-std::string EmptyBlock() {
-    std::string block;
-    block.reserve(blockBytes);
-    return block;
-}
+constexpr std::string_view lineEnd = "\r\n";
 
 } // namespace
 
@@ -33,6 +29,13 @@ bool TextInput::ReadMore() {
     if (myAt > 0) {
         std::copy(Unread().begin(), Unread().end(), myBuffer.begin());
         myEnd -= std::exchange(myAt, 0);
+    }
+    if (myEnd >= mostLineBytes) {
+        myFault = "A line is longer than 2 GB";
+        myEnd = 0;
+    }
+    if (!myFault.empty()) {
+        return false;
     }
     if (myEnd == myBuffer.size()) {
         myBuffer.resize(std::max(blockBytes, 2 * myBuffer.size())); // A line is longer than all of it.
@@ -82,27 +85,28 @@ std::optional<std::string_view> TextInput::InputItem() {
     return line.substr(from, end - from);
 }
 
-TextOutput::TextOutput(const std::string &pName) : myBlock(EmptyBlock()), myFile(pName) {}
+TextOutput::TextOutput(const std::string &pName, std::size_t pMostBytes)
+    : myBlock(std::make_unique_for_overwrite<char[]>(blockBytes + pMostBytes + lineEnd.size())),
+      myEnd(myBlock.get()), myFile(pName) {}
 
-void TextOutput::Print(std::string_view pText) {
-    if (pText.size() > blockBytes - myBlock.size()) {
-        myFile.Write(myBlock);
-        myBlock.clear();
-    }
-    if (pText.size() > blockBytes) {
-        myFile.Write(pText);
-    } else {
-        myBlock += pText;
+void TextOutput::PrintLine(std::string_view pText) {
+    EndLine(std::copy(pText.begin(), pText.end(), BeginLine()));
+}
+
+void TextOutput::EndLine(char *pEnd) {
+    myEnd = std::copy(lineEnd.begin(), lineEnd.end(), pEnd);
+    if (myEnd - myBlock.get() > static_cast<std::ptrdiff_t>(blockBytes)) {
+        WriteBlock();
     }
 }
 
-void TextOutput::PrintLine(std::string_view pText) {
-    Print(pText);
-    Print("\r\n");
+void TextOutput::WriteBlock() {
+    myFile.Write({myBlock.get(), myEnd});
+    myEnd = myBlock.get();
 }
 
 TextOutput::Fault TextOutput::Close() {
-    myFile.Write(myBlock);
+    WriteBlock();
     myFile.Close();
     return {myFile.Fault(), !myFile.Fault().empty() && myFile.WasEmptied()};
 }

@@ -3,6 +3,7 @@
 /// sequence. The line rule stands here and nowhere else: CR or CR LF ends a line, LF alone does not.
 #include "platform/System.h"
 
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -16,9 +17,12 @@ class TextInput {
 public:
     explicit TextInput(const std::string &pName) : myFile(pName) {}
 
-    /// The system's reason why the file could not be read; empty as long as it could. From a fault on the
-    /// file reads as if it ended there, so it has to be asked for at the end as well.
-    const std::string &Fault() const { return myFile.Fault(); }
+    /// No line is longer than this many bytes: 2 GB are no line of any table, but would fill the memory.
+    static constexpr std::size_t mostLineBytes = std::size_t{1} << 31U;
+
+    /// The reason why the file could not be read, mostly the system's; empty as long as it could. From a
+    /// fault on the file reads as if it ended there, so it has to be asked for at the end as well.
+    const std::string &Fault() const { return myFault.empty() ? myFile.Fault() : myFault; }
 
     /// True when the next read would find nothing.
     bool AtEnd();
@@ -37,21 +41,26 @@ private:
     std::size_t LineLength();
 
     os::FileReader myFile;
+    std::string myFault;
     std::string myBuffer; ///< what was read and not yet handed out stands from myAt to myEnd
     std::size_t myAt = 0;
     std::size_t myEnd = 0;
 };
 
-/// A file open for output, which loses what was in it. What is printed goes to the disk block by block.
+/// A file open for output, which loses what was in it. Its lines go to the disk block by block.
 class TextOutput {
 public:
-    explicit TextOutput(const std::string &pName);
+    /// pMostBytes: as much room as any line needs, made before the file is touched, so that memory can't run
+    /// out in the middle.
+    TextOutput(const std::string &pName, std::size_t pMostBytes);
 
-    /// Adds pText unchanged.
-    void Print(std::string_view pText);
-
-    /// Adds pText and a line end, CR LF.
+    /// Adds pText, of at most pMostBytes, and a line end, CR LF.
     void PrintLine(std::string_view pText);
+
+    /// The room for the next line, pMostBytes from here on; EndLine adds what was put there, up to pEnd, and
+    /// a line end.
+    char *BeginLine() { return myEnd; }
+    void EndLine(char *pEnd);
 
     struct Fault {
         std::string reason;   ///< the system's own words; empty when the file is complete on disk
@@ -63,6 +72,9 @@ public:
     Fault Close();
 
 private:
-    std::string myBlock; ///< never grows, so that memory can't run out once the file is emptied
+    void WriteBlock();
+
+    std::unique_ptr<char[]> myBlock;
+    char *myEnd; ///< of what is in the block
     os::FileWriter myFile;
 };

@@ -24,21 +24,16 @@ int ListItem::Index() const {
     return index;
 }
 
-void ListItem::Select() {
-    myOwner.SelectedItem(this);
-}
-
 void ListItem::SubItems(int pIndex, std::string_view pText) {
     if (pIndex >= 1) {
         SetText(pIndex + 1, pText);
     }
 }
 
-ListItem &ListItems::Add(int pIndex, TextRow pTexts) {
-    const auto place = myItems.begin() + (pIndex - 1);
-    ListItem &item = **myItems.insert(place, std::make_unique<ListItem>(myOwner, std::move(pTexts)));
-    myOwner.ItemAdded(pIndex);
-    return item;
+ListItem &ListItems::Add(TextRow pTexts) {
+    myItems.push_back(std::make_unique<ListItem>(myOwner, std::move(pTexts)));
+    myOwner.ItemAdded();
+    return *myItems.back();
 }
 
 void ListItems::Remove(int pIndex) {
@@ -75,8 +70,8 @@ ListItem *ListView::SelectedItem() const {
     return mySelected == 0 ? nullptr : &ListItems(mySelected);
 }
 
-void ListView::SelectedItem(const ListItem *pItem) {
-    mySelected = pItem == nullptr ? 0 : pItem->Index();
+void ListView::SelectedIndex(int pIndex) {
+    mySelected = pIndex;
     if (mySelected != 0) {
         myCurrent = mySelected;
     }
@@ -101,9 +96,8 @@ void ListView::ColumnsChanged() {
     Touch();
 }
 
-void ListView::ItemAdded(int pIndex) {
-    mySelected += pIndex <= mySelected ? 1 : 0;
-    myCurrent = std::max(myCurrent + (pIndex <= myCurrent ? 1 : 0), 1);
+void ListView::ItemAdded() {
+    myCurrent = std::max(myCurrent, 1);
     RowsChanged();
 }
 

@@ -26,9 +26,6 @@ public:
     /// Place in the list, from 1.
     int Index() const;
 
-    /// Makes this the selected item.
-    void Select();
-
     int SubItemCount() const { return std::max(myTexts.Count() - 1, 0); }
     /// The text of sub item pIndex, from 1; empty where there is none. It holds until the item is changed.
     std::string_view SubItems(int pIndex) const {
@@ -58,9 +55,7 @@ public:
     ListItem &operator()(int pIndex) const { return *myItems[static_cast<std::size_t>(pIndex - 1)]; }
 
     /// A new item at the end.
-    ListItem &Add(TextRow pTexts) { return Add(Count() + 1, std::move(pTexts)); }
-    /// A new item at pIndex, from 1 to Count() + 1; the items from there on move one place down.
-    ListItem &Add(int pIndex, TextRow pTexts);
+    ListItem &Add(TextRow pTexts);
     /// Removes item pIndex. When it was the selected one, the item that takes its place is selected, or the
     /// new last one when it was the last.
     void Remove(int pIndex);
@@ -108,10 +103,9 @@ public:
 
     /// The selected item, or nothing.
     ListItem *SelectedItem() const;
-    /// Makes pItem the only selected one; nothing clears the selection.
-    void SelectedItem(const ListItem *pItem);
-    /// Place of the selected item, from 1; 0 when there is none.
+    /// Place of the selected item, from 1; 0 when there is none, and to clear the selection.
     int SelectedIndex() const { return mySelected; }
+    void SelectedIndex(int pIndex);
 
     /// Place of the item that the keys start from, from 1; 0 in an empty list. It stays when the selection
     /// is cleared.
@@ -133,7 +127,7 @@ private:
 
     void RowsChanged();
     void ColumnsChanged();
-    void ItemAdded(int pIndex);
+    void ItemAdded();
     void ItemRemoved(int pIndex);
 
     ViewStyle myView = ViewStyle::Icon;

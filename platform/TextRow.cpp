@@ -2,13 +2,13 @@
 
 #include <utility>
 
-TextRow::TextRow(std::string_view pRun, std::span<const std::size_t> pEnds)
+TextRow::TextRow(std::string_view pRun, std::span<const Place> pEnds)
     : myCount(static_cast<int>(pEnds.size())) {
     if (pEnds.empty()) {
         return;
     }
-    const std::size_t units = (pRun.size() + sizeof(std::size_t) - 1) / sizeof(std::size_t);
-    auto block = std::make_shared_for_overwrite<std::size_t[]>(pEnds.size() + units);
+    const std::size_t places = (pRun.size() + sizeof(Place) - 1) / sizeof(Place);
+    auto block = std::make_shared_for_overwrite<Place[]>(pEnds.size() + places);
     std::copy(pEnds.begin(), pEnds.end(), block.get());
     std::memcpy(block.get() + pEnds.size(), pRun.data(), pRun.size());
     myBlock = std::move(block);
@@ -16,10 +16,10 @@ TextRow::TextRow(std::string_view pRun, std::span<const std::size_t> pEnds)
 
 TextRow::TextRow(const std::vector<std::string> &pTexts) {
     std::string run;
-    std::vector<std::size_t> ends;
+    std::vector<Place> ends;
     for (const std::string &text : pTexts) {
         run += text;
-        ends.push_back(run.size());
+        ends.push_back(static_cast<Place>(run.size()));
     }
     *this = TextRow(run, ends);
 }
@@ -29,10 +29,10 @@ void TextRow::Set(int pPlace, std::string_view pText) {
         return;
     }
     std::string run;
-    std::vector<std::size_t> ends;
+    std::vector<Place> ends;
     for (int place = 1; place <= std::max(pPlace, myCount); ++place) {
         run += place == pPlace ? pText : (*this)(place);
-        ends.push_back(run.size());
+        ends.push_back(static_cast<Place>(run.size()));
     }
     *this = TextRow(run, ends);
 }

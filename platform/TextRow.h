@@ -5,6 +5,7 @@
 /// block.
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <cstring>
 #include <memory>
 #include <span>
@@ -14,11 +15,14 @@
 
 class TextRow {
 public:
+    using Place =
+        std::uint32_t; ///< in the row's block; half of what a pointer takes, for each cell of a table
+
     /// No texts.
     TextRow() = default;
-    /// The texts that stand one after another in pRun, each up to its place in pEnds, which rises to the
-    /// length of pRun.
-    TextRow(std::string_view pRun, std::span<const std::size_t> pEnds);
+    /// The texts that stand one after another in pRun (below 4 GB), each up to its place in pEnds, which
+    /// rises to the length of pRun.
+    TextRow(std::string_view pRun, std::span<const Place> pEnds);
     explicit TextRow(const std::vector<std::string> &pTexts);
 
     int Count() const { return myCount; }
@@ -28,6 +32,8 @@ public:
 
     /// All texts, one after another.
     std::string_view Run() const { return {Begin(), myCount == 0 ? 0 : myBlock[myCount - 1]}; }
+    /// Where in Run each of them ends.
+    std::span<const Place> Ends() const { return {myBlock.get(), static_cast<std::size_t>(myCount)}; }
 
     /// Sets text pPlace, from 1, and makes those before it where they are missing.
     void Set(int pPlace, std::string_view pText);
@@ -38,7 +44,7 @@ public:
 private:
     const char *Begin() const { return reinterpret_cast<const char *>(myBlock.get() + myCount); }
 
-    std::shared_ptr<const std::size_t[]> myBlock; ///< nothing while there are no texts
+    std::shared_ptr<const Place[]> myBlock; ///< nothing while there are no texts
     int myCount = 0;
 };
 
@@ -46,7 +52,7 @@ inline std::string_view TextRow::operator()(int pPlace) const {
     if (pPlace < 1 || pPlace > myCount) {
         return Run().substr(Run().size());
     }
-    const std::size_t from = pPlace == 1 ? 0 : myBlock[pPlace - 2];
+    const Place from = pPlace == 1 ? 0 : myBlock[pPlace - 2];
     return {Begin() + from, myBlock[pPlace - 1] - from};
 }
 
@@ -69,7 +75,7 @@ inline char *CopyText(std::string_view pText, const char *pReadableEnd, char *pT
 /// Memory in which the texts of a row are gathered, row after row.
 struct TextRowRoom {
     std::string run;
-    std::vector<std::size_t> ends;
+    std::vector<TextRow::Place> ends;
 
     /// Makes room for pMostTexts texts of pMostBytes in all, and for what CopyText needs.
     void Reserve(std::size_t pMostBytes, std::size_t pMostTexts);

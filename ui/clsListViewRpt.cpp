@@ -56,13 +56,12 @@ std::int16_t clsListViewRpt::Cols() const {
 }
 
 std::int16_t clsListViewRpt::SelectedRow() const {
-    const ListItem *item = myLV->SelectedItem();
-    return item == nullptr ? std::int16_t{-1} : Count16(item->Index() - 1);
+    return Count16(myLV->SelectedIndex() - 1);
 }
 
 void clsListViewRpt::SelectedRow(std::int16_t pRow) {
     const int row = std::min<int>(pRow, myLV->ListItems.Count() - 1);
-    myLV->SelectedItem(row < 0 ? nullptr : &myLV->ListItems(row + 1));
+    myLV->SelectedIndex(std::max(row, -1) + 1);
 }
 
 ListItem *clsListViewRpt::Item(std::int16_t pRow) const {
@@ -89,32 +88,28 @@ void clsListViewRpt::Data(std::int16_t pRow, std::int16_t pCol, const std::strin
     }
 }
 
-/// Inserts a copy of the selected item at place pIndex.
-void clsListViewRpt::CopySelectedTo(int pIndex) {
-    myLV->ListItems.Add(pIndex, myLV->SelectedItem()->Texts());
+/// Lets the selected row and the one at place pIndex change places.
+void clsListViewRpt::MoveSelectedTo(int pIndex) {
+    ListItem &selected = *myLV->SelectedItem();
+    ListItem &other = myLV->ListItems(pIndex);
+    const TextRow moved = selected.Texts();
+    selected.Texts(other.Texts());
+    other.Texts(moved);
+    myLV->SelectedIndex(pIndex);
 }
 
 void clsListViewRpt::MoveUp() {
-    const ListItem *selected = myLV->SelectedItem();
-    if (selected == nullptr || selected->Index() <= 1) {
-        return;
+    const int place = myLV->SelectedIndex();
+    if (place > 1) {
+        MoveSelectedTo(place - 1);
     }
-    const int target = selected->Index() - 1;
-    CopySelectedTo(target);
-    myLV->ListItems.Remove(selected->Index());
-    myLV->ListItems(target).Select();
 }
 
 void clsListViewRpt::MoveDown() {
-    const ListItem *selected = myLV->SelectedItem();
-    if (selected == nullptr || selected->Index() >= myLV->ListItems.Count()) {
-        return;
+    const int place = myLV->SelectedIndex();
+    if (place > 0 && place < myLV->ListItems.Count()) {
+        MoveSelectedTo(place + 1);
     }
-    // Behind the next row, which moves up when this one goes.
-    CopySelectedTo(selected->Index() + 2);
-    myLV->ListItems.Remove(selected->Index());
-    // The row that moved up has become the selected one; the copy stands right behind it.
-    myLV->ListItems(myLV->SelectedItem()->Index() + 1).Select();
 }
 
 void clsListViewRpt::Clear() {
@@ -134,9 +129,8 @@ TextRow clsListViewRpt::Row(std::int16_t pRow) const {
 }
 
 void clsListViewRpt::Del() {
-    const ListItem *selected = myLV->SelectedItem();
-    if (selected != nullptr) {
-        myLV->ListItems.Remove(selected->Index());
+    if (myLV->SelectedIndex() > 0) {
+        myLV->ListItems.Remove(myLV->SelectedIndex());
     }
 }
 

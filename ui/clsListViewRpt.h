@@ -55,7 +55,7 @@ public:
 
 private:
     ListItem *Item(std::int16_t pRow) const;
-    void CopySelectedTo(int pIndex);
+    void MoveSelectedTo(int pIndex);
 
     ListView *myLV = nullptr;
     std::vector<std::int16_t> myWidths;

@@ -66,7 +66,7 @@ TEST_F(Records, stayWhereTheyAreOnTheScreenWhenOthersChange) {
     for (int row = 0; row < 100; ++row) {
         list.ListItems.Add({}).Text("more");
     }
-    list.SelectedItem(&list.ListItems(60));
+    list.SelectedIndex(60);
     Sync();
     EXPECT_EQ(table->verticalScrollBar()->value(), 0) << "a selection by the program doesn't scroll";
     table->verticalScrollBar()->setValue(58);

@@ -60,15 +60,14 @@ TEST(Files, LinesAndItemsAreWholeWhereverABlockEnds) {
 TEST(Files, OutputReplacesTheFileByAllThatWasPrinted) {
     const TemporaryFolder folder;
     folder.Write("sub/out.dat", std::string(1'000'000, 'x'));
-    TextOutput output(folder.File("sub\\out.dat"));
+    TextOutput output(folder.File("sub\\out.dat"), 200'002);
     std::string wanted;
-    for (const std::size_t length : {3U, 65'536U, 65'535U, 200'000U, 1U}) {
+    for (const std::size_t length : {3U, 65'534U, 0U, 65'535U, 200'000U, 1U}) {
         const std::string text = std::string(length, 'a') + "\xFF\0"s;
-        output.Print(text);
-        output.PrintLine("b\n");
-        wanted += text + "b\n\r\n";
+        output.PrintLine(text);
+        wanted += text + "\r\n";
     }
     EXPECT_EQ(output.Close().reason, "");
     EXPECT_TRUE(folder.Read("sub/out.dat") == wanted);
-    EXPECT_NE(TextOutput(folder.File("sub/out.dat\0"s)).Close().reason, "");
+    EXPECT_NE(TextOutput(folder.File("sub/out.dat\0"s), 0).Close().reason, "");
 }
