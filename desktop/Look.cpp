@@ -67,8 +67,9 @@ QPalette LightPalette() {
 
 QIcon ProgramIcon() {
     QIcon icon;
-    for (const int size : {16, 22, 24, 32, 48, 64, 128, 256}) {
-        icon.addFile(QStringLiteral(":/icons/%1.png").arg(size), QSize(size, size));
+    for (const int size : {16, 24, 32, 48, 64, 128}) {
+        // Without the format's name Qt would load every reader of pictures that is installed and ask it.
+        icon.addPixmap(QPixmap(QStringLiteral(":/icons/%1.png").arg(size), "PNG"));
     }
     return icon;
 }

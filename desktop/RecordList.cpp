@@ -1,86 +1,15 @@
 #include "desktop/RecordList.h"
 
+#include "desktop/CellDelegate.h"
 #include "desktop/Look.h"
-#include "desktop/TextCodec.h"
 
-#include <QAbstractItemDelegate>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QPainter>
 #include <QScopedValueRollback>
 #include <QScrollBar>
-#include <QTextLayout>
 
 #include <algorithm>
-
-namespace {
-
-/// Draws a cell as the style would, but lays its text out once, not three times, and not at all where none of
-/// it can be seen: many columns are narrow. The mark of the keyboard's place is drawn only where the
-/// selection doesn't show it.
-class CellDelegate : public QAbstractItemDelegate {
-public:
-    CellDelegate(const RecordModel &pModel, QWidget &pView)
-        : QAbstractItemDelegate(&pView), myModel(pModel) {}
-
-    void paint(QPainter *pPainter, const QStyleOptionViewItem &pOption,
-               const QModelIndex &pIndex) const override;
-    QSize sizeHint(const QStyleOptionViewItem & /*pOption*/, const QModelIndex & /*pIndex*/) const override {
-        return {};
-    }
-
-private:
-    const RecordModel &myModel;
-};
-
-void DrawText(QPainter &pPainter, const QRect &pPlace, const QString &pText) {
-    const QFontMetrics metrics = pPainter.fontMetrics();
-    const QString ellipsis(QChar(0x2026));
-    QTextLayout layout(pText, pPainter.font());
-    layout.setCacheEnabled(true);
-    layout.beginLayout();
-    QTextLine line = layout.createLine();
-    line.setLineWidth(QWIDGETSIZE_MAX);
-    layout.endLayout();
-    const QPoint place(pPlace.left(), pPlace.top() + (pPlace.height() - metrics.height()) / 2);
-    if (line.naturalTextWidth() <= pPlace.width()) {
-        layout.draw(&pPainter, place);
-        return;
-    }
-    const int fitting =
-        line.xToCursor(pPlace.width() - metrics.horizontalAdvance(ellipsis), QTextLine::CursorOnCharacter);
-    pPainter.drawText(place + QPoint(0, metrics.ascent()), pText.left(fitting) + ellipsis);
-}
-
-void CellDelegate::paint(QPainter *pPainter, const QStyleOptionViewItem &pOption,
-                         const QModelIndex &pIndex) const {
-    const bool isSelected = pOption.state.testFlag(QStyle::State_Selected);
-    const auto group = !pOption.state.testFlag(QStyle::State_Enabled) ? QPalette::Disabled
-                       : pOption.state.testFlag(QStyle::State_Active) ? QPalette::Active
-                                                                      : QPalette::Inactive;
-    if (isSelected) {
-        pPainter->fillRect(pOption.rect, pOption.palette.brush(group, QPalette::Highlight));
-    }
-    const int margin =
-        pOption.widget->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, &pOption, pOption.widget) + 1;
-    const QRect place = pOption.rect.adjusted(margin, 0, -margin, 0);
-    if (place.width() >= pOption.fontMetrics.averageCharWidth()) {
-        pPainter->setFont(pOption.font);
-        pPainter->setPen(
-            pOption.palette.color(group, isSelected ? QPalette::HighlightedText : QPalette::Text));
-        DrawText(*pPainter, place, ToQtLine(myModel.Cell(pIndex), mostShown));
-    }
-    if (pOption.state.testFlag(QStyle::State_HasFocus) && !isSelected) {
-        QStyleOptionFocusRect mark;
-        mark.QStyleOption::operator=(pOption);
-        mark.state |= QStyle::State_KeyboardFocusChange | QStyle::State_Item;
-        mark.backgroundColor = pOption.palette.color(group, QPalette::Base);
-        pOption.widget->style()->drawPrimitive(QStyle::PE_FrameFocusRect, &mark, pPainter, pOption.widget);
-    }
-}
-
-} // namespace
 
 RecordList::RecordList(Acts &pActs, ListView &pList, QWidget &pParent)
     : QTableView(&pParent), ControlView(pActs, pList), myList(pList), myModel(pList) {
