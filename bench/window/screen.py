@@ -1,0 +1,287 @@
+"""A screen of its own to measure windows on: an X server, a window manager, and programs whose window is watched
+from outside. What a program paints is told by the server as damage to its window, so that neither its timers nor
+the window manager's decorations are mistaken for it. Needs Xvfb, openbox and Debian's python3-xlib."""
+
+import os
+import select
+import shutil
+import subprocess
+import tempfile
+import time
+
+from Xlib import X, XK, display
+from Xlib.ext import damage
+from Xlib.protocol import event
+
+TIMEOUT = 60  # seconds, for anything to be seen at all
+QUIET_AT_START = 0.25  # seconds without damage after which a picture counts as the final one
+QUIET = 0.12
+IDLE = 0.003  # seconds of the processor's that a program may take in that time and still count as done
+WIDTH, HEIGHT = 1280, 900
+
+
+class NotSeen(Exception):
+    """Something that was to be measured did not happen."""
+
+
+class Screen:
+    def __init__(self):
+        self.folder = tempfile.mkdtemp(prefix="norvo-times-")
+        self.children = []
+        self.damaged = {}  # window: when its last damage was heard of
+        self.created = set()  # the programs' windows since the last forget()
+        self._environment()
+        read_end, write_end = os.pipe()
+        # Without -noreset the server would start anew whenever its last client goes.
+        self.run("Xvfb", "-displayfd", str(write_end), "-screen", "0", "%dx%dx24" % (WIDTH, HEIGHT),
+                 "-nolisten", "tcp", "-noreset", pass_fds=[write_end])
+        os.close(write_end)
+        with os.fdopen(read_end) as pipe:
+            self.environment["DISPLAY"] = ":" + pipe.readline().strip()
+        self.display = display.Display(self.environment["DISPLAY"])
+        self.display.set_error_handler(lambda *_: None)  # Windows come and go; what's missing is noticed.
+        self.display.damage_query_version()
+        self.root = self.display.screen().root
+        self.root.change_attributes(event_mask=X.SubstructureNotifyMask)
+        self.run("openbox", "--sm-disable", "--config-file", self._settings())
+        self.until(lambda: self._property(self.root, "_NET_SUPPORTING_WM_CHECK"), "a window manager")
+        self.manager = self._owner(self._property(self.root, "_NET_SUPPORTING_WM_CHECK"))
+
+    def _environment(self):
+        # An empty home, and no bus: the toolkit would start one, which is not the program's time.
+        kept = {name: value for name, value in os.environ.items() if not name.startswith(("QT_", "XDG_"))}
+        self.environment = dict(kept, HOME=self.folder, XDG_RUNTIME_DIR=self.folder, QT_QPA_PLATFORM="xcb",
+                                DBUS_SESSION_BUS_ADDRESS="disabled:")
+
+    def _settings(self):
+        # Its own would bind keys away from the programs.
+        path = os.path.join(self.folder, "openbox.xml")
+        with open(path, "w", encoding="utf-8") as file:
+            file.write('<openbox_config xmlns="http://openbox.org/3.4/rc"></openbox_config>')
+        return path
+
+    def run(self, *words, **options):
+        child = subprocess.Popen(words, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
+                                 env=self.environment, cwd=self.folder, **options)
+        self.children.append(child)
+        return child
+
+    def end(self, child):
+        child.terminate()
+        child.wait()
+        self.children.remove(child)
+
+    def close(self):
+        for child in reversed(list(self.children)):
+            self.end(child)
+        shutil.rmtree(self.folder, ignore_errors=True)
+
+    def _property(self, window, name):
+        found = window.get_full_property(self.display.intern_atom(name), X.AnyPropertyType)
+        return found.value[0] if found and len(found.value) else None
+
+    def _owner(self, window):
+        """The part of a window's number that stands for the client that has made it."""
+        return window & ~self.display.display.info.resource_id_mask
+
+    def active(self):
+        """The window that has the keyboard, or None."""
+        number = self._property(self.root, "_NET_ACTIVE_WINDOW")
+        return self.display.create_resource_object("window", number) if number else None
+
+    def activate(self, window):
+        number = self.display.intern_atom("_NET_ACTIVE_WINDOW")
+        by_user = 2
+        message = event.ClientMessage(window=window, client_type=number, data=(32, [by_user, 0, 0, 0, 0]))
+        self.root.send_event(message, event_mask=X.SubstructureRedirectMask | X.SubstructureNotifyMask)
+        self.until(lambda: self.active() == window, "the window in front")
+
+    def until(self, condition, what):
+        end = time.monotonic() + TIMEOUT
+        while time.monotonic() < end:
+            result = condition()
+            if result:
+                return result
+            time.sleep(0.01)
+        raise NotSeen("not seen in %d s: %s" % (TIMEOUT, what))
+
+    # --- damage
+
+    def _hear(self):
+        """Takes in what has come, each lot with the time before it was read: sorting it out takes a while."""
+        while True:
+            now = time.perf_counter()
+            count = self.display.pending_events()
+            if count == 0:
+                return
+            for _ in range(count):
+                self._take(self.display.next_event(), now)
+
+    def _take(self, one, now):
+        if one.type == self.display.extension_event.DamageNotify:
+            self.damaged[one.drawable.id] = now
+        elif one.type == X.CreateNotify and self._owner(one.window.id) != self.manager:
+            # Before it is shown: nothing of it may be missed.
+            one.window.damage_create(damage.DamageReportRawRectangles)
+            self.display.flush()
+            self.created.add(one.window.id)
+
+    def listen(self, seconds):
+        """Takes in what the server says. Waits that long for the first of it."""
+        if not self.display.pending_events():  # An answer to a request may have brought some along.
+            select.select([self.display.fileno()], [], [], max(seconds, 0))
+        self._hear()
+
+    def forget(self):
+        self._hear()
+        self.damaged.clear()
+        self.created.clear()
+
+    # --- the user's hands
+
+    def code(self, name):
+        return self.display.keysym_to_keycode(XK.string_to_keysym(name))
+
+    def fake(self, kind, code=0, x=0, y=0):
+        self.display.xtest_fake_input(kind, code, x=x, y=y)
+
+    def stroke(self, name, *held):
+        codes = [self.code(one) for one in (*held, name)]
+        for code in codes:
+            self.fake(X.KeyPress, code)
+        for code in reversed(codes):
+            self.fake(X.KeyRelease, code)
+
+    def type(self, text):
+        names = {"/": "slash", "-": "minus", ".": "period", "_": "underscore"}
+        for letter in text:
+            held = ["Shift_L"] if letter == "_" or letter.isupper() else []
+            self.stroke(names.get(letter, letter), *held)
+        self.display.flush()
+
+
+class Started:
+    """A program and its main window, which is moved to x, y once it is there. start_time is from before the process
+    is made to the final picture, in seconds."""
+
+    def __init__(self, screen, words, x, y):
+        self.screen = screen
+        screen.fake(X.MotionNotify, x=WIDTH - 1, y=HEIGHT - 1)
+        screen.display.sync()
+        screen.forget()
+        begin = time.perf_counter()
+        self.process = screen.run(*words)
+        self.start_time = self._last_damage(screen.created, begin, QUIET_AT_START) - begin
+        self.window = screen.until(self._active_of_created, "the window of " + words[0])
+        self.window.configure(x=x, y=y)
+        self.settle()
+        place = self.window.get_geometry()
+        self.width, self.height = place.width, place.height
+        corner = screen.root.translate_coords(self.window, 0, 0)
+        self.left, self.top = corner.x, corner.y
+
+    def _active_of_created(self):
+        active = self.screen.active()
+        return active if active and active.id in self.screen.created else None
+
+    def end(self):
+        self.screen.end(self.process)
+
+    def _processor_time(self):
+        """Seconds that all its threads have run."""
+        total = 0
+        folder = "/proc/%d/task" % self.process.pid
+        for thread in os.listdir(folder):
+            try:
+                with open(os.path.join(folder, thread, "schedstat"), encoding="ascii") as file:
+                    total += int(file.read().split()[0])
+            except FileNotFoundError:
+                continue  # It has ended meanwhile.
+        return total / 1e9
+
+    def _last_damage(self, windows, begin, quiet):
+        """When one of the windows was painted last before it stayed so for a while, the program having nothing
+        more to do."""
+        last, since = None, begin
+        used = self._processor_time()
+        while time.perf_counter() < begin + TIMEOUT:
+            self.screen.listen(since + quiet - time.perf_counter())
+            if self.process.poll() is not None:
+                raise NotSeen("the program has ended")
+            seen = max((self.screen.damaged[one] for one in windows if one in self.screen.damaged), default=None)
+            if seen != last:
+                last = since = seen
+                used = self._processor_time()
+            elif time.perf_counter() >= since + quiet:
+                before, used = used, self._processor_time()
+                if last and used - before < IDLE:
+                    return last
+                since = time.perf_counter()
+        raise NotSeen("nothing painted in %d s" % TIMEOUT)
+
+    def settle(self):
+        """Waits until nothing more comes of what was done."""
+        self.screen.display.sync()
+        since = time.perf_counter()
+        used = self._processor_time()
+        while time.perf_counter() < since + QUIET:
+            self.screen.listen(since + QUIET - time.perf_counter())
+            if time.perf_counter() >= since + QUIET:
+                before, used = used, self._processor_time()
+                if used - before >= IDLE:
+                    since = time.perf_counter()
+
+    def time(self):
+        """Seconds from the requests that wait to be sent to the final picture of the window."""
+        self.screen.damaged.clear()
+        begin = time.perf_counter()
+        self.screen.display.flush()
+        return self._last_damage([self.window.id], begin, QUIET) - begin
+
+    def activate(self):
+        self.screen.activate(self.window)
+        self.settle()
+
+    def time_key(self, name):
+        self.screen.stroke(name)
+        return self.time()
+
+    def key(self, name, *held):
+        self.screen.stroke(name, *held)
+        self.settle()
+
+    def point(self, x, y):
+        self.screen.fake(X.MotionNotify, x=self.left + x, y=self.top + y)
+        self.settle()
+
+    def click(self, x, y):
+        self.point(x, y)
+        self.screen.fake(X.ButtonPress, 1)
+        self.screen.fake(X.ButtonRelease, 1)
+        self.settle()
+
+    def time_button(self, x, y):
+        """The time from the mouse button's release, which is what presses a button of the window."""
+        self.point(x, y)
+        self.screen.fake(X.ButtonPress, 1)
+        self.settle()
+        self.screen.fake(X.ButtonRelease, 1)
+        return self.time()
+
+    def time_size(self, width, height):
+        self.window.configure(width=width, height=height)
+        return self.time()
+
+    def peak_memory(self):
+        """Most bytes of memory that it has had so far."""
+        with open("/proc/%d/status" % self.process.pid, encoding="ascii", errors="replace") as file:
+            line = next(one for one in file if one.startswith("VmHWM:"))
+        return int(line.split()[1]) * 1024
+
+    def picture(self, path):
+        subprocess.run(["import", "-window", str(self.window.id), path], env=self.screen.environment, check=True)
+
+    def inks(self, left, top, width, height):
+        """How many different colours a part of the window shows."""
+        image = self.window.get_image(left, top, width, height, X.ZPixmap, 0xFFFFFFFF)
+        return len({image.data[at:at + 4] for at in range(0, len(image.data), 4)})
