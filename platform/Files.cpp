@@ -24,25 +24,32 @@ bool TextInput::AtEnd() {
     return Unread().empty() && !ReadMore();
 }
 
-/// Reads on behind what is unread; false when the file has no more.
+/// Reads on behind what is unread; false when the file has no more, after which nothing moves.
 bool TextInput::ReadMore() {
-    if (myAt > 0) {
-        std::copy(Unread().begin(), Unread().end(), myBuffer.begin());
-        myEnd -= std::exchange(myAt, 0);
+    if (!myHasMore) {
+        return false;
     }
-    if (myEnd >= mostLineBytes) {
+    if (Unread().size() >= mostLineBytes) {
         myFault = "A line is longer than 2 GB";
-        myEnd = 0;
-    }
-    if (!myFault.empty()) {
+        myHasMore = false;
+        myAt = myEnd;
         return false;
     }
     if (myEnd == myBuffer.size()) {
-        myBuffer.resize(std::max(blockBytes, 2 * myBuffer.size())); // A line is longer than all of it.
+        MakeRoom();
     }
     const std::size_t count = myFile.Read(&myBuffer[myEnd], myBuffer.size() - myEnd);
     myEnd += count;
-    return count > 0;
+    myHasMore = count > 0;
+    return myHasMore;
+}
+
+void TextInput::MakeRoom() {
+    std::copy(Unread().begin(), Unread().end(), myBuffer.begin());
+    myEnd -= std::exchange(myAt, 0);
+    if (2 * myEnd >= myBuffer.size()) {
+        myBuffer.resize(std::max(blockBytes, 2 * myBuffer.size())); // A line takes up most of it.
+    }
 }
 
 /// Length of the rest of the current line, all of which is in the buffer then.
@@ -55,7 +62,7 @@ std::size_t TextInput::LineLength() {
         }
         searched = Unread().size();
         if (!ReadMore()) {
-            return searched;
+            return Unread().size();
         }
     }
 }

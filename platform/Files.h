@@ -38,6 +38,7 @@ public:
 private:
     std::string_view Unread() const { return std::string_view(myBuffer).substr(myAt, myEnd - myAt); }
     bool ReadMore();
+    void MakeRoom();
     std::size_t LineLength();
 
     os::FileReader myFile;
@@ -45,6 +46,7 @@ private:
     std::string myBuffer; ///< what was read and not yet handed out stands from myAt to myEnd
     std::size_t myAt = 0;
     std::size_t myEnd = 0;
+    bool myHasMore = true;
 };
 
 /// A file open for output, which loses what was in it. Its lines go to the disk block by block.
