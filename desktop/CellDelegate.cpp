@@ -8,10 +8,31 @@
 #include <QTextLayout>
 #include <QWidget>
 
+#include <algorithm>
+
 namespace {
 
-/// Draws pText on one line in pPlace, cut with an ellipsis where it doesn't fit, and left out where
-/// not even that does.
+int MarginOf(const QStyleOptionViewItem &pOption) {
+    return pOption.widget->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, &pOption, pOption.widget) + 1;
+}
+
+/// Whether pText runs from left to right and letter by letter, as all scripts below Hebrew's place do.
+bool IsPlain(const QString &pText) {
+    constexpr char16_t hebrew = 0x0590;
+    return std::all_of(pText.begin(), pText.end(), [](QChar pUnit) { return pUnit < hebrew; });
+}
+
+/// pText, which pLine is laid out of, cut with an ellipsis to pWidth; empty where not even that fits.
+QString Cut(const QString &pText, const QTextLine &pLine, const QFontMetrics &pMetrics, int pWidth) {
+    if (!IsPlain(pText)) {
+        return pMetrics.elidedText(pText, Qt::ElideRight, pWidth);
+    }
+    const QString ellipsis(QChar(0x2026));
+    const double room = pWidth - pMetrics.horizontalAdvance(ellipsis);
+    return room < 0 ? QString() : pText.left(pLine.xToCursor(room, QTextLine::CursorOnCharacter)) + ellipsis;
+}
+
+/// Draws pText on one line in pPlace.
 void DrawText(QPainter &pPainter, const QRect &pPlace, const QString &pText) {
     const QFontMetrics metrics = pPainter.fontMetrics();
     const QPoint place(pPlace.left(), pPlace.top() + (pPlace.height() - metrics.height()) / 2);
@@ -22,13 +43,8 @@ void DrawText(QPainter &pPainter, const QRect &pPlace, const QString &pText) {
     layout.endLayout();
     if (line.naturalTextWidth() <= pPlace.width()) {
         layout.draw(&pPainter, place);
-        return;
-    }
-    const QString ellipsis(QChar(0x2026));
-    const double room = pPlace.width() - metrics.horizontalAdvance(ellipsis);
-    if (room >= 0) {
-        const int fitting = line.xToCursor(room, QTextLine::CursorOnCharacter);
-        pPainter.drawText(place + QPoint(0, metrics.ascent()), pText.left(fitting) + ellipsis);
+    } else {
+        pPainter.drawText(place + QPoint(0, metrics.ascent()), Cut(pText, line, metrics, pPlace.width()));
     }
 }
 
@@ -50,6 +66,12 @@ void DrawFocus(QPainter &pPainter, const QStyleOptionViewItem &pOption, QPalette
 
 } // namespace
 
+QSize CellDelegate::sizeHint(const QStyleOptionViewItem &pOption, const QModelIndex &pIndex) const {
+    const QString text = ToQtLine(myModel.Cell(pIndex), mostShown);
+    return {pOption.fontMetrics.horizontalAdvance(text) + 2 * MarginOf(pOption),
+            pOption.fontMetrics.height()};
+}
+
 void CellDelegate::paint(QPainter *pPainter, const QStyleOptionViewItem &pOption,
                          const QModelIndex &pIndex) const {
     const auto group = GroupOf(pOption.state);
@@ -57,8 +79,7 @@ void CellDelegate::paint(QPainter *pPainter, const QStyleOptionViewItem &pOption
     if (isSelected) {
         pPainter->fillRect(pOption.rect, pOption.palette.brush(group, QPalette::Highlight));
     }
-    const QWidget *view = pOption.widget;
-    const int margin = view->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, &pOption, view) + 1;
+    const int margin = MarginOf(pOption);
     const QRect place = pOption.rect.adjusted(margin, 0, -margin, 0);
     if (place.width() >= pOption.fontMetrics.averageCharWidth()) {
         pPainter->setFont(pOption.font);

@@ -12,10 +12,7 @@ public:
 
     void paint(QPainter *pPainter, const QStyleOptionViewItem &pOption,
                const QModelIndex &pIndex) const override;
-    /// Nothing: rows and columns have their sizes from elsewhere.
-    QSize sizeHint(const QStyleOptionViewItem & /*pOption*/, const QModelIndex & /*pIndex*/) const override {
-        return {};
-    }
+    QSize sizeHint(const QStyleOptionViewItem &pOption, const QModelIndex &pIndex) const override;
 
 private:
     const RecordModel &myModel;

@@ -48,7 +48,8 @@ void TextInput::MakeRoom() {
     std::copy(Unread().begin(), Unread().end(), myBuffer.begin());
     myEnd -= std::exchange(myAt, 0);
     if (2 * myEnd >= myBuffer.size()) {
-        myBuffer.resize(std::max(blockBytes, 2 * myBuffer.size())); // A line takes up most of it.
+        // A line takes up most of it.
+        myBuffer.resize(std::clamp(2 * myBuffer.size(), blockBytes, mostLineBytes));
     }
 }
 

@@ -146,8 +146,10 @@ FileWriter::~FileWriter() {
 void FileWriter::Write(std::string_view pBytes) {
     while (myFault.empty() && !pBytes.empty()) {
         const ssize_t written = write(Descriptor(myHandle), pBytes.data(), pBytes.size());
-        if (written >= 0) {
+        if (written > 0) {
             pBytes.remove_prefix(static_cast<std::size_t>(written));
+        } else if (written == 0) {
+            myFault = Reason(ENOSPC); // It took nothing; asking on would never end.
         } else if (errno != EINTR) {
             myFault = Reason(errno);
         }

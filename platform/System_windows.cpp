@@ -192,7 +192,8 @@ void FileWriter::Write(std::string_view pBytes) {
 }
 
 void FileWriter::Close() {
-    if (myFault.empty() && (!Flush(Native(myHandle)) || !GiveBack(myHandle))) {
+    const bool isDevice = !myWasEmptied; // There is nothing of it to flush.
+    if (myFault.empty() && ((!isDevice && !Flush(Native(myHandle))) || !GiveBack(myHandle))) {
         myFault = LastReason();
     }
 }

@@ -76,6 +76,26 @@ TEST_F(Records, stayWhereTheyAreOnTheScreenWhenOthersChange) {
     EXPECT_EQ(Selected(), 60);
 }
 
+TEST_F(Records, keepEachTextInItsCell) {
+    list.ColumnHeaders.Add("Next");
+    list.ColumnHeaders.Width(2, 600);
+    const auto picture = [&](const std::string &pText, float pWidth, int pColumn) {
+        list.ListItems(1).Text(pText);
+        list.ColumnHeaders.Width(1, pWidth);
+        Sync();
+        // All of it is drawn: a cell that isn't would leave its neighbour alone.
+        const QRect cell = table->visualRect(table->model()->index(0, pColumn));
+        return table->grab().toImage().copy(cell.translated(table->viewport()->pos()));
+    };
+    for (const std::string text :
+         {"a text that is far too long", "שלום לכולם ולכל מי שבא", "left שלום לכולם right"}) {
+        for (const float width : {90.0F, 210.0F, 330.0F, 600.0F}) {
+            EXPECT_EQ(picture(text, width, 1), picture("", width, 1)) << text << " in " << width << " twips";
+        }
+        EXPECT_NE(picture(text, 600, 0), picture("", 600, 0)) << text;
+    }
+}
+
 using Window = Bench;
 
 TEST_F(Window, givesTheFocusOfADisabledButtonToTheList) {
