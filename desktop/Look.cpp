@@ -1,6 +1,7 @@
 #include "desktop/Look.h"
 
 #include <QFontDatabase>
+#include <QGuiApplication>
 
 #include <algorithm>
 #include <cmath>
@@ -39,6 +40,11 @@ QFont FormFont() {
     font.setPixelSize(formFontPixels);
     font.setWeight(QFont::Normal);
     font.setItalic(false);
+    if (qGuiApp->devicePixelRatio() > 1) {
+        // Left to itself Qt hints nothing there, and a text in its field moves up and down by a pixel with
+        // the letters that reach below the line.
+        font.setHintingPreference(QFont::PreferVerticalHinting);
+    }
     return font;
 }
 
