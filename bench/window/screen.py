@@ -105,6 +105,10 @@ class Screen:
             time.sleep(0.01)
         raise NotSeen("not seen in %d s: %s" % (TIMEOUT, what))
 
+    def rest(self):
+        """Lets the server and the window manager put away what has ended."""
+        time.sleep(1)
+
     # --- damage
 
     def _hear(self):

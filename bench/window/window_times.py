@@ -124,6 +124,7 @@ def measure_round(screen, words):
     done in one after the other, so that what slows the machine for a while slows both sides of a ratio.
     Returns {(table's name, side): {name: seconds or bytes}}."""
     runs, values = {}, {}
+    screen.rest()
     for key, place_of_one in zip(words, PLACES):
         with told(key, "start"):
             runs[key] = start(screen, words[key], *place_of_one)
@@ -173,7 +174,9 @@ def measure(options, tables):
         rounds = []
         for number in range(options.rounds):
             print("round %d of %d" % (number + 1, options.rounds), file=sys.stderr)
-            rounds.append(measure_round(screen, words))
+            # In the opposite order each time: to be started first may be a burden or a help.
+            order = sorted(words, reverse=number % 2 == 1)
+            rounds.append(measure_round(screen, {key: words[key] for key in order}))
         return rounds
     finally:
         screen.close()
