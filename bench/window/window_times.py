@@ -120,15 +120,21 @@ ACTS = (down, page_down, resize, letter)
 
 
 def measure_round(screen, words):
-    """words are those of each run: {(table's name, side): words}. All are on the screen at a time, and each act is
-    done in one after the other, so that what slows the machine for a while slows both sides of a ratio.
+    """words are those of each run: {(table's name, side): words}. Each is started alone; then all are on the screen
+    at a time, and each act is done in one after the other, so that what slows the machine for a while slows both
+    sides of a ratio.
     Returns {(table's name, side): {name: seconds or bytes}}."""
     runs, values = {}, {}
     screen.rest()
+    for key in words:
+        with told(key, "start"):
+            # Alone: a window that loses the focus to the new one paints itself anew beside it.
+            run = start(screen, words[key], *PLACES[0])
+            values[key] = {"start": run.start_time, "memory": run.peak_memory()}
+            run.end()
     for key, place_of_one in zip(words, PLACES):
         with told(key, "start"):
             runs[key] = start(screen, words[key], *place_of_one)
-            values[key] = {"start": runs[key].start_time, "memory": runs[key].peak_memory()}
     for act in ACTS:
         for key, run in runs.items():
             with told(key, act.__name__):
