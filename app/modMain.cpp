@@ -1,11 +1,11 @@
 #include "app/modMain.h"
 
-#include "app/frmMain.h"
 #include "app/modArgcArgv.h"
+#include "editor/frmMain.h"
 #include "help/frmAbout.h"
-#include "platform/Files.h"
 #include "platform/Runtime.h"
-#include "platform/Text.h"
+#include "text/Files.h"
+#include "text/Text.h"
 
 using modArgcArgv::argc;
 using modArgcArgv::argv;

@@ -1,10 +1,10 @@
 #pragma once
 /// The editor without a screen: the main window, loaded by a specification and ready for the commands and the
 /// acts of a user.
-#include "app/frmMain.h"
 #include "app/modMain.h"
 #include "bench/NoDesktop.h"
 #include "bench/StandardTables.h"
+#include "editor/frmMain.h"
 #include "help/frmAbout.h"
 #include "platform/Runtime.h"
 

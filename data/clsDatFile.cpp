@@ -1,8 +1,8 @@
 #include "data/clsDatFile.h"
 
-#include "platform/Files.h"
-#include "platform/Numbers.h"
 #include "platform/Runtime.h"
+#include "text/Files.h"
+#include "text/Numbers.h"
 
 #include <new>
 #include <utility>

@@ -1,7 +1,7 @@
 #pragma once
 /// A table of strings in memory with its file name and format, and the only way in which a table file is read
 /// or written. A fault of a file is left to be read here; saying it to the user is the caller's.
-#include "platform/TextRow.h"
+#include "text/TextRow.h"
 
 #include <cstdint>
 #include <string>

@@ -3,8 +3,8 @@
 #include "data/clsDatFile.h"
 
 #include "data/modGetWords.h"
-#include "platform/Files.h"
-#include "platform/Numbers.h"
+#include "text/Files.h"
+#include "text/Numbers.h"
 
 #include <algorithm>
 #include <optional>

@@ -1,8 +1,8 @@
 // The two writers. They share the form of a row, and differ only in what stands before row 0.
 #include "data/clsDatFile.h"
 
-#include "platform/Files.h"
-#include "platform/Numbers.h"
+#include "text/Files.h"
+#include "text/Numbers.h"
 
 #include <algorithm>
 #include <cstring>

@@ -1,6 +1,6 @@
 #include "data/modGetWords.h"
 
-#include "platform/Text.h"
+#include "text/Text.h"
 
 #include <algorithm>
 

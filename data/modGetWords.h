@@ -1,7 +1,7 @@
 #pragma once
 /// The words of one line of a table file: fields separated by commas, any of them in double quotes. Both
 /// table readers use it; it knows nothing of files or tables.
-#include "platform/TextRow.h"
+#include "text/TextRow.h"
 
 #include <string_view>
 

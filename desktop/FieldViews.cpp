@@ -2,7 +2,7 @@
 
 #include "desktop/KeyCodes.h"
 #include "desktop/TextCodec.h"
-#include "platform/Text.h"
+#include "text/Text.h"
 
 #include <QListView>
 #include <QScopedValueRollback>

@@ -3,7 +3,7 @@
 #include "desktop/FileDialog.h"
 #include "desktop/TextCodec.h"
 #include "platform/Runtime.h"
-#include "platform/System.h"
+#include "text/System.h"
 
 #include <QApplication>
 #include <QDesktopServices>

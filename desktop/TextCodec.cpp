@@ -1,6 +1,6 @@
 #include "desktop/TextCodec.h"
 
-#include "platform/Text.h"
+#include "text/Text.h"
 
 namespace {
 

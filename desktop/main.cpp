@@ -1,11 +1,11 @@
 /// The program: puts the desktop under the runtime and the runtime under the editor, and runs the event loop.
+#include "app/VersionRecord.h"
 #include "app/modMain.h"
 #include "desktop/ContrastStyle.h"
 #include "desktop/Look.h"
 #include "desktop/QtDesktop.h"
 #include "platform/Runtime.h"
-#include "platform/System.h"
-#include "platform/VersionRecord.h"
+#include "text/System.h"
 
 #include <QApplication>
 

@@ -1,6 +1,6 @@
 // Button states: what can be pressed follows from how many rows the list has and which one is selected, and
 // the list is asked anew each time.
-#include "app/frmMain.h"
+#include "editor/frmMain.h"
 
 void frmMain::UpdateButtons() {
     UpdateDelButton();

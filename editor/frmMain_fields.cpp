@@ -1,11 +1,11 @@
 // Building the fields: the specification is read and tested, and the form's labels, fields, list columns and
 // layout tags are made from it, one of each for every row.
-#include "app/frmMain.h"
 #include "app/modMain.h"
-#include "platform/Files.h"
-#include "platform/Numbers.h"
+#include "editor/frmMain.h"
 #include "platform/Runtime.h"
-#include "platform/Text.h"
+#include "text/Files.h"
+#include "text/Numbers.h"
+#include "text/Text.h"
 
 namespace {
 

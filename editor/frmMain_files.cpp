@@ -1,9 +1,9 @@
 // Files and leaving: records come from a data file into the list and go back out of it, and the program is
 // left. The data table is only the way to and from the file.
-#include "app/frmMain.h"
-#include "platform/Files.h"
-#include "platform/Numbers.h"
+#include "editor/frmMain.h"
 #include "platform/Runtime.h"
+#include "text/Files.h"
+#include "text/Numbers.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
 // Moving records between the fields and the list, whose rows are the working copy. The caption of cmdAdd is
 // the only state: "Update" while the fields hold the selected row.
-#include "app/frmMain.h"
-#include "platform/Numbers.h"
+#include "editor/frmMain.h"
 #include "platform/Runtime.h"
+#include "text/Numbers.h"
 
 namespace {
 

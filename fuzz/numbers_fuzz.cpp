@@ -1,7 +1,7 @@
 /// The number conversions on any text, and the roundings on any double (the first eight bytes), against the
 /// C library's opinion.
 #include "fuzz/FuzzSupport.h"
-#include "platform/Numbers.h"
+#include "text/Numbers.h"
 
 #include <array>
 #include <cmath>

@@ -1,8 +1,8 @@
 #include "help/frmAbout.h"
 
 #include "help/modBrowseTo.h"
-#include "platform/Numbers.h"
 #include "platform/Runtime.h"
+#include "text/Numbers.h"
 
 #ifndef NORVO_HOME_PAGE
 #define NORVO_HOME_PAGE "https://norvo.example/"

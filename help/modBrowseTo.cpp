@@ -1,7 +1,7 @@
 #include "help/modBrowseTo.h"
 
-#include "platform/Files.h"
 #include "platform/Runtime.h"
+#include "text/Files.h"
 
 namespace modBrowseTo {
 

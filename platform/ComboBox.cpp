@@ -1,6 +1,6 @@
 #include "platform/ComboBox.h"
 
-#include "platform/Text.h"
+#include "text/Text.h"
 
 #include <algorithm>
 #include <utility>

@@ -3,8 +3,8 @@
 #include "platform/Desktop.h"
 #include "platform/Form.h"
 #include "platform/Runtime.h"
-#include "platform/System.h"
-#include "platform/Text.h"
+#include "text/System.h"
+#include "text/Text.h"
 
 #include <algorithm>
 

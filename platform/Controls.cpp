@@ -1,6 +1,6 @@
 #include "platform/Controls.h"
 
-#include "platform/Text.h"
+#include "text/Text.h"
 
 void Label::Caption(std::string pCaption) {
     myCaption = std::move(pCaption);

@@ -4,7 +4,7 @@
 /// are.
 #include "platform/Control.h"
 #include "platform/Event.h"
-#include "platform/TextRow.h"
+#include "text/TextRow.h"
 
 #include <algorithm>
 #include <memory>

@@ -1,6 +1,6 @@
 #include "platform/Runtime.h"
 
-#include "platform/VersionRecord.h"
+#include "app/VersionRecord.h"
 
 #include <algorithm>
 #include <cstdlib>

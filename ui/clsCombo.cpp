@@ -1,8 +1,8 @@
 #include "ui/clsCombo.h"
 
 #include "platform/ComboBox.h"
-#include "platform/Files.h"
-#include "platform/Text.h"
+#include "text/Files.h"
+#include "text/Text.h"
 
 namespace {
 

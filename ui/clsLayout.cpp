@@ -1,7 +1,7 @@
 #include "ui/clsLayout.h"
 
 #include "platform/Form.h"
-#include "platform/Numbers.h"
+#include "text/Numbers.h"
 
 #include <algorithm>
 #include <stdexcept>

@@ -1,7 +1,7 @@
 #include "ui/clsListViewRpt.h"
 
 #include "platform/ListView.h"
-#include "platform/Numbers.h"
+#include "text/Numbers.h"
 
 #include <algorithm>
 #include <utility>

@@ -2,7 +2,7 @@
 /// A list control in report view as a grid of text: rows and columns from 0, one selected row, rows moved up
 /// and down, columns whose widths are shares of the control's. The control is the store; a condition that a
 /// caller breaks (a cell that isn't there) reads as empty or does nothing.
-#include "platform/TextRow.h"
+#include "text/TextRow.h"
 
 #include <cstdint>
 #include <string>

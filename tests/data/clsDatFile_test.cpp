@@ -1,8 +1,8 @@
 #include "data/clsDatFile.h"
 
 #include "platform/Runtime.h"
-#include "platform/Text.h"
 #include "tests/support/Program.h"
+#include "text/Text.h"
 
 namespace {
 

@@ -2,8 +2,8 @@
 
 #include "platform/ComboBox.h"
 #include "platform/Runtime.h"
-#include "platform/Text.h"
 #include "tests/support/ScriptedDesktop.h"
+#include "text/Text.h"
 
 namespace {
 

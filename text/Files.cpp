@@ -1,4 +1,4 @@
-#include "platform/Files.h"
+#include "text/Files.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,10 +1,10 @@
-#include "app/frmMain.h"
+#include "editor/frmMain.h"
 
 #include "help/frmAbout.h"
 #include "help/modBrowseTo.h"
-#include "platform/Numbers.h"
 #include "platform/Runtime.h"
-#include "platform/Text.h"
+#include "text/Numbers.h"
+#include "text/Text.h"
 
 #ifndef NDEBUG
 #include <cstdio>

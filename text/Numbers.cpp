@@ -1,6 +1,6 @@
-#include "platform/Numbers.h"
+#include "text/Numbers.h"
 
-#include "platform/Text.h"
+#include "text/Text.h"
 
 #include <algorithm>
 #include <charconv>

@@ -1,6 +1,6 @@
-#include "platform/Text.h"
+#include "text/Text.h"
 
-#include "platform/System.h"
+#include "text/System.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "platform/TextRow.h"
+#include "text/TextRow.h"
 
 #include <gtest/gtest.h>
 

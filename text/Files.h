@@ -1,7 +1,7 @@
 #pragma once
 /// Text files as the logic sees them: looked for by Dir, read in sequence by lines and items, written in
 /// sequence. The line rule stands here and nowhere else: CR or CR LF ends a line, LF alone does not.
-#include "platform/System.h"
+#include "text/System.h"
 
 #include <memory>
 #include <optional>

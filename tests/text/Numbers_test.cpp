@@ -1,4 +1,4 @@
-#include "platform/Numbers.h"
+#include "text/Numbers.h"
 
 #include <gtest/gtest.h>
 

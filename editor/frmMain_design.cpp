@@ -1,6 +1,6 @@
 // The form as it was designed: its controls with their places, captions and layout rules, and which event
 // goes to which handler.
-#include "app/frmMain.h"
+#include "editor/frmMain.h"
 
 #include "platform/Runtime.h"
 
