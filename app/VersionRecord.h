@@ -1,9 +1,16 @@
 #pragma once
-/// The version record of the program, the one place that its version stands in: the About box shows these
-/// values, the help search uses ProductName, and CMakeLists.txt reads the three numbers from here.
+/// The version record of the program. The version stands here and nowhere else: CMakeLists.txt reads the
+/// three numbers, and packages, metainfo and archives get theirs from there.
+#include "platform/Runtime.h"
+
+#include <string>
 #include <string_view>
 
 namespace versionRecord {
+
+inline constexpr int versionMajor = 1;
+inline constexpr int versionMinor = 0;
+inline constexpr int versionRevision = 20;
 
 inline constexpr std::string_view comments = "Easily edit data files.";
 inline constexpr std::string_view companyName = "Norvo";
@@ -12,10 +19,11 @@ inline constexpr std::string_view productName = "NorvoEditDat";
 inline constexpr std::string_view internalName = "NorvoEditDat";
 inline constexpr std::string_view originalFilename = "NorvoEditDat.exe";
 inline constexpr std::string_view legalCopyright = "© 2026 the authors";
-inline constexpr std::string_view fileVersion = "1.00.0020"; // major, minor, revision: see below
 
-inline constexpr int versionMajor = 1;
-inline constexpr int versionMinor = 0;
-inline constexpr int versionRevision = 20;
+/// FileVersion and ProductVersion, such as "1.00.0020".
+std::string FileVersion();
 
 } // namespace versionRecord
+
+/// The record as the running program sees it. pProgramFile is the full path of the program's file.
+AppRecord MakeAppRecord(const std::string &pProgramFile);

@@ -1,52 +1,47 @@
 #include "app/modArgcArgv.h"
 
+#include "text/Cursor.h"
+
+#include <optional>
+
 namespace modArgcArgv {
 
 namespace {
 
-enum class State { BetweenWords, InPlainWord, InQuotedWord };
-
-/// Goes through pCommand and collects its word pWanted, from 1. Both operations stand on this.
-struct Scan {
-    int words = 0;
-    std::string text;
-
-    Scan(std::string_view pCommand, int pWanted) {
-        State state = State::BetweenWords;
-        for (const char character : pCommand) {
-            switch (state) {
-            case State::BetweenWords:
-                if (character != ' ') {
-                    state = character == '"' ? State::InQuotedWord : State::InPlainWord;
-                    ++words;
-                }
-                break;
-            case State::InPlainWord:
-                if (character == ' ') {
-                    state = State::BetweenWords;
-                }
-                break;
-            case State::InQuotedWord:
-                if (character == '"') {
-                    state = State::BetweenWords;
-                }
-                break;
-            }
-            if (state != State::BetweenWords && words == pWanted && character != '"') {
-                text += character;
-            }
-        }
+/// Takes the next word, without its enclosing quotation marks; null when there is no further word.
+std::optional<std::string_view> TakeWord(Cursor &pCommand) {
+    pCommand.TakeBlanks();
+    if (pCommand.AtEnd()) {
+        return std::nullopt;
     }
-};
+    if (!pCommand.Take('"')) {
+        return pCommand.TakeUntil(' ');
+    }
+    const std::string_view word = pCommand.TakeUntil('"');
+    pCommand.Take('"');
+    return word;
+}
 
 } // namespace
 
 int argc(std::string_view pCommand) {
-    return Scan(pCommand, 0).words;
+    Cursor command(pCommand);
+    int words = 0;
+    while (TakeWord(command)) {
+        ++words;
+    }
+    return words;
 }
 
 std::string argv(std::string_view pCommand, int pIndex) {
-    return Scan(pCommand, pIndex).text;
+    Cursor command(pCommand);
+    std::optional<std::string_view> word;
+    for (int index = 1; index <= pIndex; ++index) {
+        word = TakeWord(command);
+    }
+    std::string text(word.value_or(""));
+    std::erase(text, '"');
+    return text;
 }
 
 } // namespace modArgcArgv

@@ -5,10 +5,18 @@
 #include "help/frmAbout.h"
 #include "platform/Runtime.h"
 #include "text/Files.h"
+#include "text/Numbers.h"
 #include "text/Text.h"
 
 using modArgcArgv::argc;
 using modArgcArgv::argv;
+
+namespace {
+
+/// A specification file and a data file.
+constexpr std::size_t mostNames = 2;
+
+} // namespace
 
 modMain::modMain(Runtime &pRuntime)
     : gSpecFile(pRuntime.App().Path + "\\" + pRuntime.App().EXEName + ".dat"),
@@ -21,45 +29,41 @@ void modMain::Main() {
     StartWindow();
 }
 
-modMain::Positional modMain::ReadWords() {
+std::vector<std::string> modMain::ReadWords() {
     const std::string &command = myRuntime.Command();
     const int limit = argc(command);
-    Positional words;
-    // What doesn't fit any more settles it. A shell can hand over thousands of words, and each one is a walk
-    // through the text.
-    const auto isSettled = [&] { return words.nArgs > static_cast<int>(words.args.size()); };
-    for (int i = 1; i <= limit && !isSettled(); ++i) {
+    std::vector<std::string> args;
+    // One word too many settles the matter. A shell can hand over thousands, and each costs a walk through
+    // the text.
+    for (int i = 1; i <= limit && args.size() <= mostNames; ++i) {
         const std::string word = argv(command, i);
         const std::string lower = LCase(word);
         if (lower == "-t" || lower == "/t") {
             gTitle = argv(command, ++i);
         } else if (lower == "-v" || lower == "/v") {
-            ++i; // Its word is taken and has no effect.
+            ++i; // Its word has no effect.
         } else if (lower == "-csv" || lower == "/csv") {
-            fmtArg = "1";
+            fmtArg = FormatWhole(clsDatFile::fmtCsv);
         } else if (lower == "-csvh" || lower == "/csvh") {
-            fmtArg = "2";
+            fmtArg = FormatWhole(clsDatFile::fmtCsvWithHeaders);
         } else {
-            if (words.nArgs < static_cast<int>(words.args.size())) {
-                words.args[static_cast<std::size_t>(words.nArgs)] = word;
-            }
-            ++words.nArgs;
+            args.push_back(word);
         }
     }
-    return words;
+    return args;
 }
 
-void modMain::SettleFiles(const Positional &pWords) {
-    switch (pWords.nArgs) {
+void modMain::SettleFiles(const std::vector<std::string> &args) {
+    switch (args.size()) {
     case 0:
         gCanOpen = true;
         break;
     case 1:
-        gDatFile = pWords.args[0];
+        gDatFile = args[0];
         break;
     case 2:
-        gSpecFile = pWords.args[0];
-        gDatFile = pWords.args[1];
+        gSpecFile = args[0];
+        gDatFile = args[1];
         if (Dir(gSpecFile).empty()) {
             gSpecFile = myRuntime.App().Path + "\\" + gSpecFile;
         }
@@ -71,11 +75,11 @@ void modMain::SettleFiles(const Positional &pWords) {
 
 void modMain::StartWindow() {
     myAbout = std::make_unique<frmAbout>(myRuntime);
-    myMain = std::make_unique<frmMain>(myRuntime, *this, *myAbout);
+    myMain = std::make_unique<frmMain>(myRuntime, gSpecFile, *myAbout);
     Form &window = myMain->Window();
     window.Load();
-    // Behind the load: messages about a bad specification bear the design caption. The format has to be set
-    // before anything is read by it.
+    // The title comes after the load: messages about a bad specification bear the design caption. The format
+    // comes before the open, which reads by it.
     window.Caption(gTitle);
     myMain->mnuFileOpen.Enabled(gCanOpen);
     myMain->AppCmd("fmt", {fmtArg});
@@ -86,7 +90,5 @@ void modMain::StartWindow() {
 }
 
 void modMain::Usage() const {
-    myRuntime.MsgBox("Usage: \r\n" + myRuntime.App().EXEName +
-                     " [[specfile] datfile] [/t title] [/csv|/csvh]");
-    myRuntime.End(1);
+    myRuntime.Stop("Usage: \r\n" + myRuntime.App().EXEName + " [[specfile] datfile] [/t title] [/csv|/csvh]");
 }

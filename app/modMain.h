@@ -1,9 +1,9 @@
 #pragma once
 /// The entry: settles from the command line which files, title and format a run has, owns the forms, and runs
 /// the start sequence.
-#include <array>
 #include <memory>
 #include <string>
+#include <vector>
 
 class Runtime;
 class frmAbout;
@@ -16,8 +16,8 @@ public:
     modMain(const modMain &) = delete;
     modMain &operator=(const modMain &) = delete;
 
-    /// Reads the command line, loads the main window and shows it; the event loop is the caller's. Ends the
-    /// program when the command line or the specification is bad.
+    /// Reads the command line, loads the main window and shows it. The caller then runs the event loop. Ends
+    /// the program when the command line or the specification is bad.
     void Main();
 
     std::string gSpecFile; ///< the specification file
@@ -26,19 +26,15 @@ public:
     bool gCanOpen = false; ///< no file was named: File Open is enabled, and none is opened at start
 
 private:
-    /// The words of the command line that are no switches. All are counted, the first 21 kept.
-    struct Positional {
-        std::array<std::string, 21> args;
-        int nArgs = 0;
-    };
-
-    Positional ReadWords();
-    void SettleFiles(const Positional &pWords);
+    /// Takes the switches, and returns the other words of the command line, in their order. Stops after the
+    /// first word too many.
+    std::vector<std::string> ReadWords();
+    void SettleFiles(const std::vector<std::string> &args);
     void StartWindow();
     [[noreturn]] void Usage() const;
 
     Runtime &myRuntime;
-    std::string fmtArg = "0"; ///< "0" .dat, "1" CSV, "2" CSV with a header line
+    std::string fmtArg = "0"; ///< the form of the data file, a number of clsDatFile's as text
     std::unique_ptr<frmAbout> myAbout;
     std::unique_ptr<frmMain> myMain;
 };

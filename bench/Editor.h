@@ -1,7 +1,6 @@
 #pragma once
 /// The editor without a screen: the main window, loaded by a specification and ready for the commands and the
 /// acts of a user.
-#include "app/modMain.h"
 #include "bench/NoDesktop.h"
 #include "bench/StandardTables.h"
 #include "editor/frmMain.h"
@@ -11,8 +10,7 @@
 class Editor {
 public:
     Editor(const std::string &pSpecFile, StandardTables::FileForm pForm)
-        : myModule(myRuntime), myAbout(myRuntime), myMain(myRuntime, myModule, myAbout) {
-        myModule.gSpecFile = pSpecFile;
+        : myAbout(myRuntime), myMain(myRuntime, pSpecFile, myAbout) {
         myMain.Window().Load();
         myMain.AppCmd("fmt", {std::to_string(static_cast<int>(pForm))});
     }
@@ -30,7 +28,6 @@ public:
 private:
     NoDesktop myDesktop;
     Runtime myRuntime{myDesktop, {}, ""};
-    modMain myModule;
     frmAbout myAbout;
     frmMain myMain;
 };

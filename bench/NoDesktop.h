@@ -7,7 +7,7 @@
 
 class NoDesktop : public Desktop {
 public:
-    int ShowMessage(const Message &pMessage) override {
+    MessageAnswer ShowMessage(const Message &pMessage) override {
         std::fprintf(stderr, "Unexpected message: %s\n", pMessage.prompt.c_str());
         std::abort();
     }

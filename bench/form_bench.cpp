@@ -31,7 +31,8 @@ struct Field {
         list.close();
         combo.cb(box);
         combo.Mode(2);
-        if (!combo.LoadFromTxtFile(file).empty() || box.ListCount() != pEntries) {
+        combo.LoadFromTxtFile(file);
+        if (!combo.Fault().empty() || box.ListCount() != pEntries) {
             std::abort();
         }
     }

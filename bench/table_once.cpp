@@ -10,8 +10,8 @@
 namespace {
 
 bool IsGood(const clsDatFile &pTable) {
-    if (pTable.LastFault().kind != clsDatFile::Fault::Kind::None) {
-        std::fprintf(stderr, "table_once: %s\n", pTable.LastFault().text.c_str());
+    if (!pTable.Fault().empty()) {
+        std::fprintf(stderr, "table_once: %s\n", pTable.Fault().c_str());
         return false;
     }
     return true;

@@ -9,13 +9,8 @@
 
 namespace {
 
-constexpr std::int16_t fmtDat = 0;
-constexpr std::int16_t fmtCsv = 1;
-constexpr std::int16_t fmtCsvWithHeaders = 2;
-
 [[noreturn]] void StopOutOfBounds(const Runtime &pRuntime, const std::string &pWhat, std::int16_t pValue) {
-    pRuntime.MsgBox("clsDatFile." + pWhat + " out of bounds (" + Str(pValue) + ")");
-    pRuntime.End(1);
+    pRuntime.Stop("clsDatFile." + pWhat + " out of bounds (" + Str(pValue) + ")");
 }
 
 } // namespace
@@ -92,7 +87,8 @@ void clsDatFile::Clear() {
 }
 
 void clsDatFile::Load() {
-    myFault = {};
+    myFault.clear();
+    myWasRead = true;
     try {
         switch (myFmt) {
         case fmtDat:
@@ -108,13 +104,12 @@ void clsDatFile::Load() {
             break;
         }
     } catch (const std::bad_alloc &) {
-        EmptyTable(0);
-        Refuse(Fault::Kind::NotRead, "can't be read: There is not enough memory for it.");
+        LeaveUnread("can't be read: There is not enough memory for it.");
     }
 }
 
 void clsDatFile::Save() {
-    myFault = {};
+    myFault.clear();
     try {
         switch (myFmt) {
         case fmtDat:
@@ -130,29 +125,32 @@ void clsDatFile::Save() {
             break;
         }
     } catch (const std::bad_alloc &) {
-        // What memory is needed is got before the file is touched.
-        Refuse(Fault::Kind::NotSaved,
-               "can't be saved: There is not enough memory for it. The records are still in the list.");
+        // The writers get all their memory before they touch the file.
+        KeepFault("can't be saved: There is not enough memory for it. The records are still in the list.");
     }
 }
 
 void clsDatFile::StopWithoutFileName() const {
     if (myFn.empty()) {
-        myRuntime.MsgBox("clsDatFile.Load: Filename not set");
-        myRuntime.End(1);
+        myRuntime.Stop("clsDatFile.Load: Filename not set");
     }
 }
 
-void clsDatFile::Refuse(Fault::Kind pKind, const std::string &pText) {
-    myFault = {pKind, "File " + myFn + " " + pText};
+void clsDatFile::KeepFault(const std::string &pText) {
+    myFault = "File " + myFn + " " + pText;
+}
+
+void clsDatFile::LeaveUnread(const std::string &pWhy) {
+    EmptyTable(0);
+    myWasRead = false;
+    KeepFault(pWhy);
 }
 
 bool clsDatFile::TakeFaultOf(const TextInput &pFile) {
     if (pFile.Fault().empty()) {
         return false;
     }
-    EmptyTable(0);
-    Refuse(Fault::Kind::NotRead, "can't be read: " + pFile.Fault() + ".");
+    LeaveUnread("can't be read: " + pFile.Fault() + ".");
     return true;
 }
 

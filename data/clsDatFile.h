@@ -1,6 +1,7 @@
 #pragma once
 /// A table of strings in memory with its file name and format, and the only way in which a table file is read
-/// or written. A fault of a file is left to be read here; saying it to the user is the caller's.
+/// or written. It keeps a fault of the file for the caller, who reports it to the user. Only a caller's own
+/// mistake, or a CSV file without a usable first row, makes it show a message itself and end the program.
 #include "text/TextRow.h"
 
 #include <cstdint>
@@ -17,17 +18,10 @@ class clsDatFile {
 public:
     static constexpr int mostRows = 32767;
 
-    /// What went wrong with the file at the last Load or Save.
-    struct Fault {
-        enum class Kind {
-            None,
-            NotRead,   ///< nothing of it could be taken in
-            WrongSize, ///< its first line promises more than there is, or more than a table can hold
-            NotSaved
-        };
-        Kind kind = Kind::None;
-        std::string text; ///< for the user, with the file's name and the reason
-    };
+    // The forms of a table file.
+    static constexpr std::int16_t fmtDat = 0;            ///< a line of counts, then rows
+    static constexpr std::int16_t fmtCsv = 1;            ///< rows alone
+    static constexpr std::int16_t fmtCsvWithHeaders = 2; ///< a header line, then rows
 
     explicit clsDatFile(const Runtime &pRuntime) : myRuntime(pRuntime) {}
 
@@ -37,12 +31,12 @@ public:
     /// Whether the file name is set and Dir finds that file.
     bool Exists() const;
 
-    /// 0 the .dat form, 1 CSV, 2 CSV with a header line. With any other value Load and Save do nothing.
+    /// One of the forms above. With any other value Load and Save do nothing.
     void Fmt(std::int16_t pFmt) { myFmt = pFmt; }
     /// "csv" for the two CSV forms, else "dat".
     std::string FileType() const;
 
-    /// The titles for the header line of format 2, in any number.
+    /// The titles for the header line, in any number.
     void Headers(std::vector<std::string> pHeaders) { myHeaders = std::move(pHeaders); }
 
     /// The size, apart from the storage: only Clear and Load make storage of it. Setting a value below 1
@@ -77,16 +71,19 @@ public:
     /// Writes the table to the file; nothing when no file name is set.
     void Save();
 
-    const Fault &LastFault() const { return myFault; }
+    /// What went wrong with the file at the last Load or Save, in a sentence for the user that names the
+    /// file. Empty when nothing did.
+    const std::string &Fault() const { return myFault; }
+    /// Whether the last Load could read the file. If not, the table is empty. A fault of a file that was read
+    /// concerns its size: it holds fewer records than its first line announces, or announces none that fit.
+    bool WasRead() const { return myWasRead; }
 
 private:
     void LoadDat();
     void LoadCsv(bool pHasHeaders);
     void SaveDat();
     void SaveCsv(bool pHasHeaders);
-    /// Puts pField to pTo in the form that it has on disk, and returns the end of it. There has to be room
-    /// for shortTextBytes more than that form has.
-    static char *Quote(std::string_view pField, bool pHasQuotes, const char *pReadableEnd, char *pTo);
+    static char *Quote(std::string_view pField, bool pHasQuotes, std::string_view pRow, char *pTo);
 
     void StopWithoutFileName() const;
     bool TakeFaultOf(const TextInput &pFile);
@@ -94,7 +91,8 @@ private:
     void TakeAnnouncedRowsFrom(TextInput &pFile);
     void TakeRowsUpToARaggedOne(TextInput &pFile);
     void EmptyTable(int pCols);
-    void Refuse(Fault::Kind pKind, const std::string &pText);
+    void LeaveUnread(const std::string &pWhy);
+    void KeepFault(const std::string &pText);
 
     std::size_t MostLineBytes(const TextRow &pTitles) const;
     void PrintRow(TextOutput &pFile, const TextRow &pCells) const;
@@ -105,7 +103,7 @@ private:
 
     const Runtime &myRuntime;
     std::string myFn;
-    std::int16_t myFmt = 0;
+    std::int16_t myFmt = fmtDat;
     std::int16_t myRows = 0;
     std::int16_t myCols = 0;
     std::vector<std::string> myHeaders;
@@ -113,5 +111,6 @@ private:
     /// large announced size costs nothing. Its width is myStoredCols.
     std::vector<TextRow> myData;
     std::int16_t myStoredCols = 0;
-    Fault myFault;
+    std::string myFault;
+    bool myWasRead = true;
 };

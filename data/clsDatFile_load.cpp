@@ -35,8 +35,8 @@ void clsDatFile::TakeSizeFrom(TextInput &pFile) {
     if (!fittingRows && rows > mostRows) {
         EmptyTable(*fittingCols);
         const std::string announced = rows < mostShownRows ? FormatWhole(rows) : "far too many";
-        Refuse(Fault::Kind::WrongSize, "announces " + announced + " records. A table holds at most " +
-                                           std::to_string(mostRows) + ", so none were read.");
+        KeepFault("announces " + announced + " records. A table holds at most " + std::to_string(mostRows) +
+                  ", so none were read.");
         return;
     }
     if (!fittingRows || *fittingRows < 0) {
@@ -47,8 +47,8 @@ void clsDatFile::TakeSizeFrom(TextInput &pFile) {
     myCols = *fittingCols;
     Clear();
     if (!WholeNumber(*rowsItem)) {
-        // An empty list without a word would be taken for the file, and saved over it.
-        Refuse(Fault::Kind::WrongSize, "doesn't begin with the number of its records, so none were read.");
+        // Without a message the user would take the empty list for the file, and save over it.
+        KeepFault("doesn't begin with the number of its records, so none were read.");
     }
 }
 
@@ -65,9 +65,8 @@ void clsDatFile::TakeAnnouncedRowsFrom(TextInput &pFile) {
     TextRowRoom room;
     for (std::int16_t row = 0; row < myRows; ++row) {
         if (pFile.AtEnd()) {
-            Refuse(Fault::Kind::WrongSize, "is too short. Its first line announces " +
-                                               std::to_string(myRows) + " records, but it holds only " +
-                                               std::to_string(row) + ".");
+            KeepFault("is too short. Its first line announces " + std::to_string(myRows) +
+                      " records, but it holds only " + std::to_string(row) + ".");
             myRows = row;
             myData.resize(static_cast<std::size_t>(row));
             return;
@@ -108,9 +107,8 @@ void clsDatFile::LoadCsv(bool pHasHeaders) {
         return;
     }
     if (first.Count() > modGetWords::mostWords) {
-        EmptyTable(0);
-        Refuse(Fault::Kind::NotRead,
-               "has too many columns. A table holds at most " + std::to_string(modGetWords::mostWords) + ".");
+        LeaveUnread("has too many columns. A table holds at most " + std::to_string(modGetWords::mostWords) +
+                    ".");
         return;
     }
     Cols(static_cast<std::int16_t>(first.Count()));
@@ -121,9 +119,8 @@ void clsDatFile::LoadCsv(bool pHasHeaders) {
         return;
     }
     if (std::cmp_greater(myData.size(), mostRows)) {
-        EmptyTable(0);
-        Refuse(Fault::Kind::NotRead, "has too many records. A table holds at most " +
-                                         std::to_string(mostRows) + ", so none were read.");
+        LeaveUnread("has too many records. A table holds at most " + std::to_string(mostRows) +
+                    ", so none were read.");
         return;
     }
     Rows(static_cast<std::int16_t>(myData.size()));

@@ -1,6 +1,7 @@
 // The two writers. They share the form of a row, and differ only in what stands before row 0.
 #include "data/clsDatFile.h"
 
+#include "text/CopyPart.h"
 #include "text/Files.h"
 #include "text/Numbers.h"
 
@@ -19,10 +20,12 @@ const char *NextQuote(const char *pFrom, const char *pEnd) {
 
 } // namespace
 
-char *clsDatFile::Quote(std::string_view pField, bool pHasQuotes, const char *pReadableEnd, char *pTo) {
+/// Puts pField, a part of pRow, to pTo in the form that it has on disk, and returns the end of it. There must
+/// be room for copySlack bytes more than that form has.
+char *clsDatFile::Quote(std::string_view pField, bool pHasQuotes, std::string_view pRow, char *pTo) {
     *pTo++ = '"';
     if (!pHasQuotes) {
-        pTo = CopyText(pField, pReadableEnd, pTo);
+        pTo = CopyPart(pField, pRow, pTo);
     } else {
         for (const char character : pField) {
             *pTo = '"';
@@ -41,30 +44,30 @@ std::size_t clsDatFile::MostLineBytes(const TextRow &pTitles) const {
         most = std::max(most, row.Run().size());
     }
     constexpr std::size_t sizes = 16; // of the .dat form's first line
-    return std::max(sizes, 2 * most + 3 * static_cast<std::size_t>(myCols)) + shortTextBytes;
+    return std::max(sizes, 2 * most + 3 * static_cast<std::size_t>(myCols)) + copySlack;
 }
 
 void clsDatFile::PrintRow(TextOutput &pFile, const TextRow &pCells) const {
     const auto cols = static_cast<std::size_t>(myCols);
     const std::span<const TextRow::Place> ends = pCells.Ends().first(std::min(cols, pCells.Ends().size()));
-    const char *cell = pCells.Run().data();
-    const char *const run = cell;
-    const char *const end = run + pCells.Run().size();
-    const char *quote = NextQuote(run, end); // In the whole row: most cells have none.
+    const std::string_view run = pCells.Run();
+    const char *const end = run.data() + run.size();
+    const char *cell = run.data();
+    const char *quote = NextQuote(cell, end); // One search for the whole row: most cells have no quotes.
     char *to = pFile.BeginLine();
     for (const TextRow::Place place : ends) {
-        const char *const cellEnd = run + place;
+        const char *const cellEnd = run.data() + place;
         const bool hasQuotes = quote < cellEnd;
-        to = Quote({cell, cellEnd}, hasQuotes, end, to);
+        to = Quote({cell, cellEnd}, hasQuotes, run, to);
         quote = hasQuotes ? NextQuote(cellEnd, end) : quote;
         *to++ = ',';
         cell = cellEnd;
     }
     for (std::size_t missing = ends.size(); missing < cols; ++missing) {
-        to = Quote({}, false, nullptr, to);
+        to = Quote({}, false, {}, to);
         *to++ = ',';
     }
-    to -= cols > 0 ? 1 : 0; // Behind the last field there is none.
+    to -= cols > 0 ? 1 : 0; // No comma follows the last field.
     pFile.EndLine(to);
 }
 
@@ -99,11 +102,9 @@ void clsDatFile::SaveCsv(bool pHasHeaders) {
 }
 
 void clsDatFile::Finish(TextOutput &pFile) {
-    const TextOutput::Fault fault = pFile.Close();
-    if (fault.reason.empty()) {
-        return;
+    pFile.Close();
+    if (!pFile.Fault().empty()) {
+        KeepFault("can't be saved: " + pFile.Fault() + ". The records are still in the list." +
+                  (pFile.MayBeIncomplete() ? " The file itself may now be incomplete." : ""));
     }
-    Refuse(Fault::Kind::NotSaved,
-           "can't be saved: " + fault.reason + ". The records are still in the list." +
-               (fault.mayBeIncomplete ? " The file itself may now be incomplete." : ""));
 }

@@ -10,9 +10,9 @@ namespace modGetWords {
 /// No table has more columns than this.
 inline constexpr int mostWords = 32767;
 
-/// The words of pLine (given without its line end), at the places 1 and up. A line that makes no sense gives
-/// no words. Of a line of more than mostWords words one more than that is kept, which fits no table. pRoom
-/// is room that serves line after line.
+/// The words of pLine, which is given without its line end; word j is text j of the row, from 1. A line that
+/// makes no sense has no words. Of a line of more than mostWords words it keeps one more than that, which
+/// fits no table. pRoom can serve line after line.
 TextRow GetWords(std::string_view pLine, TextRowRoom &pRoom);
 inline TextRow GetWords(std::string_view pLine) {
     TextRowRoom room;

@@ -1,6 +1,6 @@
 #include "desktop/FieldViews.h"
 
-#include "desktop/KeyCodes.h"
+#include "desktop/KeyMap.h"
 #include "desktop/TextCodec.h"
 #include "text/Text.h"
 

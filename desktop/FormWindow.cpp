@@ -13,13 +13,12 @@
 
 namespace {
 
-constexpr float twipsPerPixel = 15;
 /// So long after the last change of size the window system is taken to have had its say.
 constexpr int settlingTime = 250;
 
 /// pPixels in twips; pNow itself where it is shown as pPixels, so that rounding looks like no change.
 float TwipsOf(int pPixels, float pNow) {
-    return Pixels(pNow) == pPixels ? pNow : static_cast<float>(pPixels) * twipsPerPixel;
+    return Pixels(pNow) == pPixels ? pNow : static_cast<float>(pPixels * twipsPerPixel);
 }
 
 } // namespace

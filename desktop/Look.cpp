@@ -6,12 +6,6 @@
 #include <algorithm>
 #include <cmath>
 
-namespace {
-
-constexpr double twipsPerPixel = 15;
-
-} // namespace
-
 int Pixels(double pTwips) {
     // What no screen can show must not overflow either.
     constexpr double most = 1 << 23;

@@ -19,10 +19,6 @@
 
 namespace {
 
-constexpr int resultOk = 1;
-constexpr int resultCancel = 2;
-constexpr int okAndCancel = 1;
-constexpr int criticalStop = 16;
 /// Of a longer prompt this much is shown, so that the box stays on the screen.
 constexpr int mostOfPrompt = 4000;
 
@@ -89,21 +85,22 @@ QWidget *QtDesktop::ActiveWindow() const {
     return nullptr;
 }
 
-int QtDesktop::ShowMessage(const Message &pMessage) {
+MessageAnswer QtDesktop::ShowMessage(const Message &pMessage) {
     Sync();
     QMessageBox box(ActiveWindow());
-    box.setIcon(pMessage.buttons == criticalStop ? QMessageBox::Critical : QMessageBox::NoIcon);
+    box.setIcon(pMessage.buttons == MessageButtons::CriticalStop ? QMessageBox::Critical
+                                                                 : QMessageBox::NoIcon);
     box.setWindowTitle(ToQtTitle(pMessage.title));
     box.setTextFormat(Qt::PlainText);
     box.setText(ToQt(pMessage.prompt, mostOfPrompt).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
     QPushButton *ok = box.addButton(QMessageBox::Ok);
     box.setDefaultButton(ok);
     box.setEscapeButton(ok);
-    if (pMessage.buttons == okAndCancel) {
+    if (pMessage.buttons == MessageButtons::OkAndCancel) {
         box.setEscapeButton(box.addButton(QMessageBox::Cancel));
     }
     const QScopedValueRollback depth(myDepth, myDepth + 1);
-    return box.exec() == QMessageBox::Ok ? resultOk : resultCancel;
+    return box.exec() == QMessageBox::Ok ? MessageAnswer::Ok : MessageAnswer::Cancel;
 }
 
 std::optional<std::string> QtDesktop::ShowFileDialog(const Form &pForm, const FileDialogRequest &pRequest) {

@@ -26,7 +26,7 @@ public:
     /// The window of pForm; nothing while it isn't on the screen.
     FormWindow *WindowOf(const Form &pForm) const;
 
-    int ShowMessage(const Message &pMessage) override;
+    MessageAnswer ShowMessage(const Message &pMessage) override;
     std::optional<std::string> ShowFileDialog(const Form &pForm, const FileDialogRequest &pRequest) override;
     void ShowForm(Form &pForm) override;
     void CloseForm(Form &pForm) override;

@@ -35,7 +35,7 @@ void frmMain::AppCmd(const std::string &pCmd, const std::vector<std::string> &pA
     } else if (command == "save") {
         AppSave(pArg.at(0));
     } else if (command == "fmt") {
-        // A number that no format could have does as little as one that none has.
+        // -1 stands for a number beyond 16 bits. It is no form either, so Load and Save do nothing.
         myDat->Fmt(Integer16(Val(pArg.at(0))).value_or(-1));
     } else {
         TraceUnknown(pCmd);
@@ -54,7 +54,7 @@ void frmMain::AppResize() {
 void frmMain::Form_Load() {
     AppCmd("Load");
     myForm.WindowState(Form::stateNormal);
-    // Behind the load, which makes the fields: the layout takes the controls that are there now.
+    // The layout takes the controls that are there now, so it comes after the load, which makes the fields.
     myLayout = std::make_unique<clsLayout>();
     myLayout->SetLayout(myForm);
 }

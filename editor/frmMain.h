@@ -1,7 +1,6 @@
 #pragma once
-/// The main window: its design-time form, the dispatcher of application commands, and the handlers of its
-/// events. Building the fields, moving records, files and leaving, and the button states are its members in
-/// editor/.
+/// The main window: its form, the dispatcher of application commands, and the handlers of its events. Each of
+/// its files frmMain_*.cpp holds the members of one topic.
 #include "data/clsDatFile.h"
 #include "platform/ComboBox.h"
 #include "platform/CommonDialog.h"
@@ -17,28 +16,29 @@
 #include <string>
 #include <vector>
 
+class SpecColumns;
 class frmAbout;
-class modMain;
+struct SpecColumn;
 
 class frmMain {
 public:
     /// Field i is the control "cbo" and this number plus i, its label "lbl" and the same number.
     static constexpr int firstFieldNumber = 20;
 
-    frmMain(Runtime &pRuntime, const modMain &pModule, frmAbout &pAbout);
+    frmMain(Runtime &pRuntime, std::string pSpecFile, frmAbout &pAbout);
 
     /// Runs an application command, in any mix of case: "load", "unload", "resize", "quit", "open" and "save"
-    /// (pArg: a file name), "fmt" (pArg: a format number as text). An unknown command has no effect. Throws
-    /// std::out_of_range when a command lacks its argument.
+    /// (pArg: a file name), "fmt" (pArg: the number of a file form, as text). An unknown command has no
+    /// effect. Throws std::out_of_range when a command lacks its argument.
     void AppCmd(const std::string &pCmd, const std::vector<std::string> &pArg = {});
-    /// Releases what the form's load has made. Only AppCmd calls it.
+    /// Releases the specification and the list report. Only AppCmd calls it.
     void AppUnload();
 
     Form &Window() { return myForm; }
 
 private:
     Runtime &myRuntime;
-    const modMain &myModule;
+    const std::string mySpecFile;
     frmAbout &myAbout;
     Form &myForm;
 
@@ -75,9 +75,10 @@ private:
 
     // Building the fields.
     void AppLoad();
-    void TestSpecification();
-    void BuildField(std::int16_t pRow, double pLeft, double pWidth, const std::string &pTag);
-    void BuildCombo(std::int16_t pRow, ComboBox &pBox);
+    void BuildList(const SpecColumns &pColumns);
+    void BuildFields(const SpecColumns &pColumns);
+    TextField &AddField(const std::string &pName, const SpecColumn &pColumn);
+    void FillCombo(clsCombo &pCombo, ComboBox &pBox, const SpecColumn &pColumn) const;
     [[noreturn]] void StopOnSpecification(const std::string &pPrompt);
 
     // Moving records.
@@ -88,17 +89,19 @@ private:
     void cmdMoveUp_Click();
     void cmdMoveDown_Click();
     void ListView1_ItemClick();
-    Control &Field(std::int16_t pIndex) const;
+    TextField &Field(int pIndex) const;
     TextRow TextsOfFields() const;
 
     // Files and leaving.
     void AppOpen(const std::string &pFn);
-    void FillList();
+    void LoadList(const std::string &pFn);
+    std::vector<std::string> Titles() const;
     void AppSave(const std::string &pFn);
     void AppQuit();
     void cmdSave_Click();
     void cmdCancel_Click();
     void SetDialogFilter();
+    /// Shows pText in a message; nothing when it is empty.
     void TellFault(const std::string &pText) const;
 
     // Button states.

@@ -1,5 +1,5 @@
-// Button states: what can be pressed follows from how many rows the list has and which one is selected, and
-// the list is asked anew each time.
+// Button states: they follow from the number of rows and the selected row, and the list is asked for both
+// anew each time.
 #include "editor/frmMain.h"
 
 void frmMain::UpdateButtons() {
@@ -14,11 +14,11 @@ void frmMain::UpdateDelButton() {
 }
 
 void frmMain::UpdateMoveUpButton() {
-    cmdMoveUp.Enabled(!IsFirstRow() && !IsEmptyList() && HasSelection());
+    cmdMoveUp.Enabled(HasSelection() && !IsFirstRow());
 }
 
 void frmMain::UpdateMoveDownButton() {
-    cmdMoveDown.Enabled(!IsLastRow() && !IsEmptyList() && HasSelection());
+    cmdMoveDown.Enabled(HasSelection() && !IsLastRow());
 }
 
 void frmMain::UpdateSaveButton() {
@@ -26,7 +26,7 @@ void frmMain::UpdateSaveButton() {
 }
 
 bool frmMain::IsEmptyList() const {
-    return ListView1.ListItems.Count() == 0;
+    return myRpt->Rows() == 0;
 }
 
 bool frmMain::HasSelection() const {
@@ -38,6 +38,5 @@ bool frmMain::IsFirstRow() const {
 }
 
 bool frmMain::IsLastRow() const {
-    const std::int16_t row = myRpt->SelectedRow();
-    return row == myRpt->Rows() - 1 && row >= 0;
+    return HasSelection() && myRpt->SelectedRow() == myRpt->Rows() - 1;
 }

@@ -6,7 +6,7 @@
 
 namespace {
 
-/// Where a control of the design stands, in twips, and how it follows the window.
+/// The place of a control, in twips, and its rule for following the window.
 struct Design {
     double left, top, width, height;
     int tabIndex;
@@ -34,9 +34,9 @@ MenuItem &Entry(Form &pForm, const char *pName, const char *pCaption, const Menu
 
 } // namespace
 
-frmMain::frmMain(Runtime &pRuntime, const modMain &pModule, frmAbout &pAbout)
-    : myRuntime(pRuntime), myModule(pModule), myAbout(pAbout), myForm(pRuntime.NewForm("frmMain")),
-      cDlg(myForm.Add<CommonDialog>("cDlg")),
+frmMain::frmMain(Runtime &pRuntime, std::string pSpecFile, frmAbout &pAbout)
+    : myRuntime(pRuntime), mySpecFile(std::move(pSpecFile)), myAbout(pAbout),
+      myForm(pRuntime.NewForm("frmMain")), cDlg(myForm.Add<CommonDialog>("cDlg")),
       cmdAdd(Place<CommandButton>(myForm, "cmdAdd", {120, 3240, 720, 360, 0, "Y=1"})),
       cmdMoveUp(Place<CommandButton>(myForm, "cmdMoveUp", {1800, 3240, 361, 360, 1, "Y=1"})),
       cmdDel(Place<CommandButton>(myForm, "cmdDel", {960, 3240, 720, 359, 2, "Y=1"})),

@@ -7,10 +7,6 @@
 
 namespace {
 
-constexpr int okAlone = 0;
-constexpr int okAndCancel = 1;
-constexpr int answerCancel = 2;
-
 std::string FormatMessage(const std::string &pFn, const clsDatFile &pDat, const clsDatFile &pSpec) {
     return "File " + pFn + " is not in the correct format." + " It has" + Str(pDat.Cols()) + " columns." +
            "\n\n" + "Specification " + pSpec.FileName() + " is for" + Str(pSpec.Rows()) +
@@ -20,37 +16,36 @@ std::string FormatMessage(const std::string &pFn, const clsDatFile &pDat, const 
 } // namespace
 
 void frmMain::TellFault(const std::string &pText) const {
-    myRuntime.MsgBox(pText, okAlone, myForm.Caption());
+    if (!pText.empty()) {
+        myRuntime.MsgBox(pText, MessageButtons::Ok, myForm.Caption());
+    }
+}
+
+std::vector<std::string> frmMain::Titles() const {
+    return mySpec->Col(0);
 }
 
 void frmMain::AppOpen(const std::string &pFn) {
-    using Kind = clsDatFile::Fault::Kind;
     myDat->FileName(pFn);
-    myDat->Headers(mySpec->Col(0));
+    myDat->Headers(Titles());
     myRpt->Clear();
     if (!Dir(pFn).empty()) {
-        myDat->Load();
-        const clsDatFile::Fault &fault = myDat->LastFault();
-        // One message for one fault: what couldn't be read has no columns to compare, and of a file that
-        // doesn't fit it matters little how many records it has.
-        if (fault.kind == Kind::NotRead) {
-            TellFault(fault.text);
-        } else if (myDat->Cols() != mySpec->Rows()) {
-            TellFault(FormatMessage(pFn, *myDat, *mySpec));
-        } else {
-            FillList();
-            if (fault.kind != Kind::None) {
-                TellFault(fault.text);
-            }
-        }
+        LoadList(pFn);
     }
     UpdateButtons();
 }
 
-void frmMain::FillList() {
+void frmMain::LoadList(const std::string &pFn) {
+    myDat->Load();
+    // One message only. Of a file with other columns it matters little how many records it has.
+    if (myDat->WasRead() && myDat->Cols() != mySpec->Rows()) {
+        TellFault(FormatMessage(pFn, *myDat, *mySpec));
+        return;
+    }
     for (std::int16_t i = 0; i < myDat->Rows(); ++i) {
         myRpt->AddRow(myDat->Row(i));
     }
+    TellFault(myDat->Fault());
 }
 
 void frmMain::AppSave(const std::string &pFn) {
@@ -61,12 +56,9 @@ void frmMain::AppSave(const std::string &pFn) {
         myDat->Row(i, myRpt->Row(i));
     }
     myDat->FileName(pFn);
-    myDat->Headers(mySpec->Col(0)); // A run that saves without having opened a file has none yet.
+    myDat->Headers(Titles()); // A run that saves without having opened a file has none yet.
     myDat->Save();
-    const clsDatFile::Fault &fault = myDat->LastFault();
-    if (fault.kind != clsDatFile::Fault::Kind::None) {
-        TellFault(fault.text);
-    }
+    TellFault(myDat->Fault());
 }
 
 void frmMain::SetDialogFilter() {
@@ -90,7 +82,7 @@ void frmMain::cmdSave_Click() {
 }
 
 void frmMain::AppQuit() {
-    if (myRuntime.MsgBox("Are you sure?", okAndCancel, "Quit") == answerCancel) {
+    if (myRuntime.MsgBox("Are you sure?", MessageButtons::OkAndCancel, "Quit") == MessageAnswer::Cancel) {
         return;
     }
     myForm.Unload();

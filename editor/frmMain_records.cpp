@@ -1,22 +1,16 @@
 // Moving records between the fields and the list, whose rows are the working copy. The caption of cmdAdd is
 // the only state: "Update" while the fields hold the selected row.
 #include "editor/frmMain.h"
-#include "platform/Runtime.h"
+
 #include "text/Numbers.h"
 
-namespace {
-
-constexpr int mostRecords = clsDatFile::mostRows;
-
-} // namespace
-
-Control &frmMain::Field(std::int16_t pIndex) const {
-    return myForm.Controls("cbo" + FormatWhole(pIndex + firstFieldNumber));
+TextField &frmMain::Field(int pIndex) const {
+    return dynamic_cast<TextField &>(myForm.Controls("cbo" + FormatWhole(pIndex + firstFieldNumber)));
 }
 
 TextRow frmMain::TextsOfFields() const {
     std::vector<std::string> texts;
-    for (std::int16_t i = 0; i < mySpec->Rows(); ++i) {
+    for (int i = 0; i < mySpec->Rows(); ++i) {
         texts.push_back(Field(i).Text());
     }
     return TextRow(texts);
@@ -35,20 +29,20 @@ void frmMain::cmdAdd_Click() {
 }
 
 void frmMain::AddRecord() {
-    if (ListView1.ListItems.Count() >= mostRecords) {
-        TellFault("The list is full: it holds at most " + std::to_string(mostRecords) + " records.");
+    if (myRpt->Rows() >= clsDatFile::mostRows) {
+        TellFault("The list is full: it holds at most " + std::to_string(clsDatFile::mostRows) + " records.");
         return;
     }
-    ListView1.ListItems.Add(TextsOfFields());
+    myRpt->AddRow(TextsOfFields());
 }
 
 void frmMain::UpdateRecord() {
-    // Opening a file while the fields hold a row leaves no row selected. The fields keep what was typed.
+    // Opening a file while the fields hold a row leaves no row selected. The fields then keep their texts.
     if (!HasSelection()) {
         return;
     }
-    ListView1.SelectedItem()->Texts(TextsOfFields());
-    for (std::int16_t i = 0; i < mySpec->Rows(); ++i) {
+    myRpt->Row(myRpt->SelectedRow(), TextsOfFields());
+    for (int i = 0; i < mySpec->Rows(); ++i) {
         Field(i).Text("");
     }
 }
@@ -72,9 +66,9 @@ void frmMain::cmdMoveDown_Click() {
 
 void frmMain::ListView1_ItemClick() {
     cmdAdd.Caption("Update");
-    const auto r = static_cast<std::int16_t>(ListView1.SelectedItem()->Index() - 1);
-    for (std::int16_t i = 0; i < mySpec->Rows(); ++i) {
-        Field(i).Text(myRpt->Data(r, i));
+    const TextRow record = myRpt->Row(myRpt->SelectedRow());
+    for (int i = 0; i < mySpec->Rows(); ++i) {
+        Field(i).Text(std::string(record(i + 1)));
     }
     UpdateButtons();
 }

@@ -59,9 +59,9 @@ std::string MemoryFile::Read() const {
     return bytes;
 }
 
-int FuzzDesktop::ShowMessage(const Message &pMessage) {
+MessageAnswer FuzzDesktop::ShowMessage(const Message &pMessage) {
     myMessage = pMessage.prompt;
-    return 1;
+    return MessageAnswer::Ok;
 }
 
 std::optional<std::string> FuzzDesktop::ShowFileDialog(const Form & /*pForm*/,

@@ -48,7 +48,7 @@ public:
         std::string message;
     };
 
-    int ShowMessage(const Message &pMessage) override;
+    MessageAnswer ShowMessage(const Message &pMessage) override;
     std::optional<std::string> ShowFileDialog(const Form &pForm, const FileDialogRequest &pRequest) override;
     void ShowForm(Form & /*pForm*/) override {}
     void CloseForm(Form & /*pForm*/) override {}
@@ -75,7 +75,7 @@ public:
 
     /// All cells, row by row.
     std::vector<std::vector<std::string>> Cells() const;
-    bool HasFault() const { return table.LastFault().kind != clsDatFile::Fault::Kind::None; }
+    bool HasFault() const { return !table.Fault().empty(); }
 
 private:
     MemoryFile myFile;

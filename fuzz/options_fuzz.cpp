@@ -57,7 +57,7 @@ bool IsNear(const Place &pOne, const Place &pOther) {
            near(pOne.height, pOther.height);
 }
 
-Place PlaceOf(const Control &pControl) {
+Place PlaceOf(const SizedControl &pControl) {
     return {pControl.Left(), pControl.Top(), pControl.Width(), pControl.Height()};
 }
 

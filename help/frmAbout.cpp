@@ -13,7 +13,6 @@ namespace {
 constexpr Colour blue = 0x0000FF;
 constexpr Colour grey = 0x808080;
 constexpr Colour white = 0xFFFFFF;
-constexpr double pixelTwips = 15;
 
 /// A control of the design, sizes in twips.
 template <typename Kind>
@@ -34,7 +33,7 @@ Label &PlaceLabel(Form &pForm, const char *pName, double pLeft, double pTop, dou
 /// A line from (pLeft, pTop) to the right, pPixels thick.
 void PlaceLine(Form &pForm, const char *pName, double pLeft, double pTop, int pPixels, Colour pColour) {
     constexpr double rightEnd = 5654;
-    Place<Line>(pForm, pName, pLeft, pTop, rightEnd - pLeft, pPixels * pixelTwips).BorderColor(pColour);
+    Place<Line>(pForm, pName, pLeft, pTop, rightEnd - pLeft, pPixels * twipsPerPixel).BorderColor(pColour);
 }
 
 } // namespace

@@ -33,7 +33,8 @@ set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland, xdg-utils")
 
 configure_file(packaging/copyright.in copyright @ONLY)
 set(CPACK_NORVO_COPYRIGHT "${CMAKE_CURRENT_BINARY_DIR}/copyright")
-set(CPACK_NORVO_CHANGELOG "${CMAKE_CURRENT_SOURCE_DIR}/packaging/changelog")
+configure_file(packaging/changelog.in changelog @ONLY)
+set(CPACK_NORVO_CHANGELOG "${CMAKE_CURRENT_BINARY_DIR}/changelog")
 set(CPACK_NORVO_MANDIR "${CMAKE_INSTALL_MANDIR}")
 set(CPACK_PRE_BUILD_SCRIPTS "${CMAKE_CURRENT_SOURCE_DIR}/packaging/debian-documents.cmake")
 

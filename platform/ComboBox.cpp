@@ -1,33 +1,17 @@
 #include "platform/ComboBox.h"
 
+#include "platform/KeyCodes.h"
 #include "text/Text.h"
 
 #include <algorithm>
 #include <utility>
 
-namespace {
-
-constexpr int keyBack = 8;
-constexpr int keyDelete = 46;
-
-} // namespace
-
-ComboBox::ComboBox(Form &pParent, std::string pName) : SizedControl(pParent, std::move(pName)) {
-    SetHeight(fixedHeightTwips);
-}
-
-void ComboBox::Height(double /*pTwips*/) {
-    throw NoSuchProperty("The height of a ComboBox is read-only");
-}
-
-void ComboBox::Move(double pLeft, double pTop, double pWidth) {
-    Left(pLeft);
-    Top(pTop);
-    Width(pWidth);
+ComboBox::ComboBox(Form &pParent, std::string pName) : TextField(pParent, std::move(pName)) {
+    SizedControl::Height(fixedHeightTwips);
 }
 
 void ComboBox::Text(const std::string &pText) {
-    myText = pText;
+    TextField::Text(pText);
     myListIndex = -1;
     myWasTypedIn = false;
     SelStart(0);
@@ -47,7 +31,7 @@ void ComboBox::Clear() {
 void ComboBox::ListIndex(int pIndex) {
     myListIndex = pIndex;
     if (pIndex >= 0) {
-        myText = List(pIndex);
+        TextField::Text(List(pIndex));
         myWasTypedIn = false; // A text that was picked, say, is no typed one.
         SelStart(0);
     }
@@ -61,24 +45,24 @@ int ComboBox::FindString(const std::string &pStart) const {
 }
 
 void ComboBox::SelStart(int pStart) {
-    mySelStart = std::clamp(pStart, 0, Utf16Length(myText));
+    mySelStart = std::clamp(pStart, 0, Utf16Length(Text()));
     mySelLength = 0;
     Touch();
 }
 
 void ComboBox::SelLength(int pLength) {
-    mySelLength = std::clamp(pLength, 0, Utf16Length(myText) - mySelStart);
+    mySelLength = std::clamp(pLength, 0, Utf16Length(Text()) - mySelStart);
     Touch();
 }
 
 void ComboBox::UserEdits(const std::string &pText, int pSelStart) {
-    if (pText == myText) {
+    if (pText == Text()) {
         return;
     }
-    Text(WithoutNewLineBreaks(myText, pText));
+    Text(WithoutNewLineBreaks(Text(), pText));
     // Counted from the end, since a CR LF in front of the caret has become one character.
-    SelStart(pSelStart + Utf16Length(myText) - Utf16Length(pText));
-    myWasTypedIn = myLastKeyDown != keyBack && myLastKeyDown != keyDelete;
+    SelStart(pSelStart + Utf16Length(Text()) - Utf16Length(pText));
+    myWasTypedIn = myLastKeyDown != keyCode::back && myLastKeyDown != keyCode::del;
     myLastKeyDown = 0; // A text that an input method brings comes without a key of its own.
 }
 
@@ -89,7 +73,7 @@ void ComboBox::UserSelects(int pSelStart, int pSelLength) {
 
 void ComboBox::UserPicks(int pIndex) {
     ListIndex(pIndex);
-    SelLength(Utf16Length(myText)); // The next letter typed is the first of another text.
+    SelLength(Utf16Length(Text())); // The next letter typed is the first of another text.
 }
 
 bool ComboBox::TakeTyped() {

@@ -1,30 +1,26 @@
 #pragma once
-/// A combo box: a single-line field of any text over a list of entries. What follows from an act of the user
-/// (completion, refusal) is its client's, through the events KeyUp and Validate.
+/// A combo box: a field over a list of entries. A client completes and refuses texts by the events KeyUp and
+/// Validate; the box itself accepts any text.
 #include "platform/Control.h"
 #include "platform/Event.h"
 
 #include <string>
 #include <vector>
 
-class ComboBox : public SizedControl {
+class ComboBox : public TextField {
 public:
     static constexpr double fixedHeightTwips = 315;
 
     ComboBox(Form &pParent, std::string pName);
     const char *TypeName() const override { return "ComboBox"; }
 
-    using SizedControl::Height;
-    /// The height is the platform's: writing it fails.
-    void Height(double pTwips) override;
+    using TextField::Height;
+    /// Has no effect: the height of a combo box is fixed.
+    void Height(double /*pTwips*/) override {}
 
-    using SizedControl::Move;
-    /// Places the box, all in twips; its height stays.
-    void Move(double pLeft, double pTop, double pWidth);
-
-    /// Setting the text shows it, also when the list doesn't hold it, makes no entry current, puts the caret
-    /// at its start and runs no check.
-    const std::string &Text() const override { return myText; }
+    using TextField::Text;
+    /// Shows pText, whether or not the list holds it. No entry is current then, and the caret is at its
+    /// start.
     void Text(const std::string &pText) override;
 
     int ListCount() const { return static_cast<int>(myList.size()); }
@@ -67,7 +63,6 @@ public:
     Event<bool &> Validate; ///< Cancel: set to true, it keeps the focus in the box
 
 private:
-    std::string myText;
     std::vector<std::string> myList;
     int myListIndex = -1;
     int mySelStart = 0;

@@ -1,53 +1,5 @@
 #include "platform/Control.h"
 
-namespace {
-
-[[noreturn]] void Lacks(const char *pTypeName, const char *pProperty) {
-    throw NoSuchProperty(std::string(pTypeName) + " doesn't support " + pProperty);
-}
-
-} // namespace
-
-const std::string &Control::Text() const {
-    Lacks(TypeName(), "Text");
-}
-
-void Control::Text(const std::string & /*pText*/) {
-    Lacks(TypeName(), "Text");
-}
-
-double Control::Left() const {
-    Lacks(TypeName(), "Left");
-}
-
-void Control::Left(double /*pTwips*/) {
-    Lacks(TypeName(), "Left");
-}
-
-double Control::Top() const {
-    Lacks(TypeName(), "Top");
-}
-
-void Control::Top(double /*pTwips*/) {
-    Lacks(TypeName(), "Top");
-}
-
-double Control::Width() const {
-    Lacks(TypeName(), "Width");
-}
-
-void Control::Width(double /*pTwips*/) {
-    Lacks(TypeName(), "Width");
-}
-
-double Control::Height() const {
-    Lacks(TypeName(), "Height");
-}
-
-void Control::Height(double /*pTwips*/) {
-    Lacks(TypeName(), "writing Height");
-}
-
 void SizedControl::Left(double pTwips) {
     myLeft = pTwips;
     Touch();
@@ -82,5 +34,10 @@ void SizedControl::Visible(bool pVisible) {
 
 void SizedControl::Enabled(bool pEnabled) {
     myEnabled = pEnabled;
+    Touch();
+}
+
+void TextField::Text(const std::string &pText) {
+    myText = pText;
     Touch();
 }

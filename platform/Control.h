@@ -1,17 +1,12 @@
 #pragma once
-/// What all controls of a form have in common: name, tag, place, and the count of changes by which a desktop
-/// sees what it has to show anew. A property that a kind of control lacks fails with NoSuchProperty; the
-/// layout manager relies on it.
-#include <stdexcept>
+/// The common part of all controls of a form: name, tag, place, and a count of changes. By that count a
+/// desktop sees whether it has to show a control anew.
 #include <string>
 
 class Form;
 
-/// A property was read or written that this kind of control doesn't have or doesn't let be written.
-class NoSuchProperty : public std::runtime_error {
-public:
-    using std::runtime_error::runtime_error;
-};
+/// Twips in a logical pixel.
+inline constexpr double twipsPerPixel = 15;
 
 class Control {
 public:
@@ -22,20 +17,6 @@ public:
 
     /// The name of the control's class, such as "Label".
     virtual const char *TypeName() const = 0;
-
-    /// The text in the control: what the user reads or types in a field. Fails for a control without one.
-    virtual const std::string &Text() const;
-    virtual void Text(const std::string &pText);
-
-    /// Place and size in twips, stored as given, unrounded.
-    virtual double Left() const;
-    virtual void Left(double pTwips);
-    virtual double Top() const;
-    virtual void Top(double pTwips);
-    virtual double Width() const;
-    virtual void Width(double pTwips);
-    virtual double Height() const;
-    virtual void Height(double pTwips);
 
     Form &Parent() const { return myParent; }
     const std::string &Name() const { return myName; }
@@ -57,25 +38,19 @@ private:
     int myRevision = 1;
 };
 
-/// A control with a place in the window.
+/// A control with a place in the window. Places and sizes are in twips, kept as given, unrounded.
 class SizedControl : public Control {
 public:
     using Control::Control;
-    using Control::Height;
-    using Control::Left;
-    using Control::Top;
-    using Control::Width;
 
-    double Left() const override { return myLeft; }
-    void Left(double pTwips) override;
-    double Top() const override { return myTop; }
-    void Top(double pTwips) override;
-    double Width() const override { return myWidth; }
-    void Width(double pTwips) override;
-    double Height() const override { return myHeight; }
-    void Height(double pTwips) override;
-
-    /// Places the control, all in twips.
+    double Left() const { return myLeft; }
+    void Left(double pTwips);
+    double Top() const { return myTop; }
+    void Top(double pTwips);
+    double Width() const { return myWidth; }
+    void Width(double pTwips);
+    double Height() const { return myHeight; }
+    virtual void Height(double pTwips);
     void Move(double pLeft, double pTop, double pWidth, double pHeight);
 
     bool Visible() const { return myVisible; }
@@ -88,18 +63,16 @@ public:
     int TabIndex() const { return myTabIndex; }
     void TabIndex(int pIndex) { myTabIndex = pIndex; }
 
-    /// What the pointer shows over the control and, where it has no text of its own, what it is called.
+    /// The text that appears when the pointer rests on the control. It also names a control without a
+    /// caption.
     const std::string &ToolTipText() const { return myToolTipText; }
     void ToolTipText(std::string pText) { myToolTipText = std::move(pText); }
 
-    /// What assistive technology reads out for the control; empty: its caption.
+    /// The name that assistive technology reads out for the control; empty: its caption.
     const std::string &AccessibleName() const { return myAccessibleName; }
     void AccessibleName(std::string pName) { myAccessibleName = std::move(pName); }
     const std::string &AccessibleDescription() const { return myAccessibleDescription; }
     void AccessibleDescription(std::string pText) { myAccessibleDescription = std::move(pText); }
-
-protected:
-    void SetHeight(double pTwips) { myHeight = pTwips; }
 
 private:
     double myLeft = 0;
@@ -112,4 +85,18 @@ private:
     std::string myToolTipText;
     std::string myAccessibleName;
     std::string myAccessibleDescription;
+};
+
+/// A single-line field for a text of any length. Its kinds differ in the help that they offer while the user
+/// types.
+class TextField : public SizedControl {
+public:
+    using SizedControl::SizedControl;
+
+    /// The text in the field. To set it shows it and runs no check.
+    const std::string &Text() const { return myText; }
+    virtual void Text(const std::string &pText);
+
+private:
+    std::string myText;
 };

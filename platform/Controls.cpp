@@ -13,13 +13,8 @@ void Label::LooksLikeLink(Colour pColour) {
     Touch();
 }
 
-void TextBox::Text(const std::string &pText) {
-    myText = pText;
-    Touch();
-}
-
 void TextBox::UserEdits(const std::string &pText) {
-    Text(WithoutNewLineBreaks(myText, pText));
+    Text(WithoutNewLineBreaks(Text(), pText));
 }
 
 void CommandButton::Caption(std::string pCaption) {

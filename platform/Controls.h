@@ -32,20 +32,13 @@ private:
     Colour myForeColor = 0;
 };
 
-/// A single-line field for any text, of any length.
-class TextBox : public SizedControl {
+class TextBox : public TextField {
 public:
-    using SizedControl::SizedControl;
+    using TextField::TextField;
     const char *TypeName() const override { return "TextBox"; }
 
-    const std::string &Text() const override { return myText; }
-    void Text(const std::string &pText) override;
-
-    /// The user made the text pText. Line breaks that came in with it become blanks.
+    /// The user has changed the text to pText. Line breaks that the change brought in become blanks.
     void UserEdits(const std::string &pText);
-
-private:
-    std::string myText;
 };
 
 class CommandButton : public SizedControl {

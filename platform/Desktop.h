@@ -13,9 +13,17 @@ struct FileDialogRequest {
     std::string name;        ///< to stand in the field; may be empty
 };
 
+enum class MessageButtons {
+    Ok = 0,
+    OkAndCancel = 1,
+    CriticalStop = 16, ///< OK, and the critical-stop icon
+};
+
+enum class MessageAnswer { Ok = 1, Cancel = 2 };
+
 struct Message {
     std::string prompt;
-    int buttons; ///< 0 OK, 1 OK and Cancel, 16 OK with the critical-stop icon
+    MessageButtons buttons;
     std::string title;
 };
 
@@ -23,8 +31,9 @@ class Desktop {
 public:
     virtual ~Desktop() = default;
 
-    /// Shows pMessage and waits for the user. 1: OK; 2: Cancel, also by Esc or the close box.
-    virtual int ShowMessage(const Message &pMessage) = 0;
+    /// Shows pMessage and waits for the user. Esc and the close box answer Cancel where it is offered, else
+    /// OK.
+    virtual MessageAnswer ShowMessage(const Message &pMessage) = 0;
 
     /// Shows a file dialog over pForm and waits. The chosen path as the user gave it; nothing when dismissed.
     /// A name that isn't there is accepted for opening as for saving, and nothing is asked before a file is

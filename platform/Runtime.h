@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-/// What the program knows of itself: its file, and its version record.
+/// The program's file and its version record.
 struct AppRecord {
     std::string Path;    ///< folder of the program's file, without a closing separator
     std::string EXEName; ///< name of the program's file, without its extension
@@ -21,9 +21,6 @@ struct AppRecord {
     int Revision = 0;
 };
 
-/// The version record, with Path and EXEName taken from pProgramFile, a full path.
-AppRecord MakeAppRecord(const std::string &pProgramFile);
-
 /// The command text that the words pWords (without the program's own) stand for: joined by one blank; a word
 /// that is empty or holds a blank in double quotes; a word that itself holds a double quote as it is.
 std::string CommandText(const std::vector<std::string> &pWords);
@@ -33,14 +30,16 @@ public:
     Runtime(::Desktop &pDesktop, AppRecord pApp, std::string pCommand);
 
     const AppRecord &App() const { return myApp; }
-    /// The text of the command line behind the program's name.
+    /// The text of the command line after the program's name.
     const std::string &Command() const { return myCommand; }
     ::Desktop &Desktop() const { return myDesktop; }
 
-    /// Shows pPrompt and waits. pButtons: 0 OK, 1 OK and Cancel, 16 OK with the critical-stop icon. Without a
-    /// title it shows the application's. 1: OK; 2: Cancel.
-    int MsgBox(const std::string &pPrompt, int pButtons = 0,
-               const std::optional<std::string> &pTitle = {}) const;
+    /// Shows pPrompt and waits for the user. Without a title it shows the application's.
+    MessageAnswer MsgBox(const std::string &pPrompt, MessageButtons pButtons = MessageButtons::Ok,
+                         const std::optional<std::string> &pTitle = {}) const;
+
+    /// Shows pPrompt under the application's title, then ends the program with exit status 1.
+    [[noreturn]] void Stop(const std::string &pPrompt) const;
 
     /// Ends the program at once: no further statement runs and no unload event comes.
     [[noreturn]] void End(int pStatus = 0) const;

@@ -1,5 +1,7 @@
 #include "text/Files.h"
 
+#include "text/Cursor.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -80,17 +82,16 @@ std::string_view TextInput::LineInput() {
 }
 
 std::optional<std::string_view> TextInput::InputItem() {
-    const std::size_t length = LineLength();
-    const std::string_view line = Unread().substr(0, length);
-    const std::size_t from = line.find_first_not_of(' ');
-    if (from == std::string_view::npos) {
-        myAt += line.size();
-        return std::nullopt;
-    }
-    const std::size_t end = std::min(line.find_first_of(", ", from), line.size());
-    const std::size_t next = std::min(line.find_first_not_of(' ', end), line.size());
-    myAt += next + (line.substr(next, 1) == "," ? 1 : 0);
-    return line.substr(from, end - from);
+    const std::size_t length = LineLength(); // First, since it moves what is unread.
+    Cursor line(Unread().substr(0, length));
+    line.TakeBlanks();
+    const bool isThere = !line.AtEnd();
+    const std::string_view item =
+        line.TakeWhile([](char pCharacter) { return pCharacter != ',' && pCharacter != ' '; });
+    line.TakeBlanks();
+    line.Take(',');
+    myAt += line.Place();
+    return isThere ? std::optional(item) : std::nullopt;
 }
 
 TextOutput::TextOutput(const std::string &pName, std::size_t pMostBytes)
@@ -113,8 +114,7 @@ void TextOutput::WriteBlock() {
     myEnd = myBlock.get();
 }
 
-TextOutput::Fault TextOutput::Close() {
+void TextOutput::Close() {
     WriteBlock();
     myFile.Close();
-    return {myFile.Fault(), !myFile.Fault().empty() && myFile.WasEmptied()};
 }

@@ -64,14 +64,14 @@ public:
     char *BeginLine() { return myEnd; }
     void EndLine(char *pEnd);
 
-    struct Fault {
-        std::string reason;   ///< the system's own words; empty when the file is complete on disk
-        bool mayBeIncomplete; ///< the old content is gone and the new one is not all there
-    };
+    /// Writes what is left and flushes the file to the disk. Nothing more can be printed.
+    void Close();
 
-    /// Writes what is left and has the file flushed to the disk. Tells of the first fault since the file was
-    /// opened.
-    Fault Close();
+    /// The system's reason for the first fault since the file was opened. Empty while there was none; after
+    /// Close the file is then complete on disk.
+    const std::string &Fault() const { return myFile.Fault(); }
+    /// Whether a fault has left the file without its old content and without all of the new one.
+    bool MayBeIncomplete() const { return !Fault().empty() && myFile.WasEmptied(); }
 
 private:
     void WriteBlock();

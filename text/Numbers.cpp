@@ -1,5 +1,6 @@
 #include "text/Numbers.h"
 
+#include "text/Cursor.h"
 #include "text/Text.h"
 
 #include <algorithm>
@@ -13,38 +14,31 @@ bool IsDigit(char pCharacter) {
     return pCharacter >= '0' && pCharacter <= '9';
 }
 
-/// How many characters of pText, from the first, form a number; 0 when none do.
-std::size_t NumberLength(std::string_view pText) {
-    std::size_t at = 0;
-    const auto digits = [&] {
-        const std::size_t from = at;
-        while (at < pText.size() && IsDigit(pText[at])) {
-            ++at;
-        }
-        return at - from;
-    };
-    if (at < pText.size() && (pText[at] == '+' || pText[at] == '-')) {
-        ++at;
+void TakeSign(Cursor &pText) {
+    if (!pText.Take('+')) {
+        pText.Take('-');
     }
-    std::size_t count = digits();
-    if (at < pText.size() && pText[at] == '.') {
-        ++at;
-        count += digits();
+}
+
+/// The longest number that pText begins with; empty when it begins with none.
+std::string_view LeadingNumber(std::string_view pText) {
+    Cursor text(pText);
+    TakeSign(text);
+    std::size_t digits = text.TakeWhile(IsDigit).size();
+    if (text.Take('.')) {
+        digits += text.TakeWhile(IsDigit).size();
     }
-    if (count == 0) {
-        return 0;
+    if (digits == 0) {
+        return {};
     }
-    const std::size_t mantissaEnd = at;
-    if (at < pText.size() && (pText[at] == 'e' || pText[at] == 'E')) {
-        ++at;
-        if (at < pText.size() && (pText[at] == '+' || pText[at] == '-')) {
-            ++at;
-        }
-        if (digits() == 0) {
-            return mantissaEnd; // "5e" is the number 5 with a letter behind it.
+    const std::string_view mantissa = text.PassedSince(0);
+    if (text.Take('e') || text.Take('E')) {
+        TakeSign(text);
+        if (text.TakeWhile(IsDigit).empty()) {
+            return mantissa; // "5e" is the number 5 with a letter after it.
         }
     }
-    return at;
+    return text.PassedSince(0);
 }
 
 /// A number too large for a double or too small: whether it is the one or the other shows in where its first
@@ -73,7 +67,7 @@ double BeyondDouble(std::string_view pNumber) {
     return negative ? -infinite : infinite;
 }
 
-/// The value of pNumber, all of which is a number by NumberLength.
+/// The value of pNumber, which LeadingNumber has found.
 double ValueOf(std::string_view pNumber) {
     const std::string_view unsignedPlus = pNumber.front() == '+' ? pNumber.substr(1) : pNumber;
     double value = 0;
@@ -99,8 +93,8 @@ double Val(std::string_view pText) {
             packed += character;
         }
     }
-    const std::size_t length = NumberLength(packed);
-    return length == 0 ? 0 : ValueOf(std::string_view(packed).substr(0, length));
+    const std::string_view number = LeadingNumber(packed);
+    return number.empty() ? 0 : ValueOf(number);
 }
 
 std::optional<std::int16_t> Integer16(double pValue) {
@@ -113,7 +107,7 @@ std::optional<std::int32_t> Integer32(double pValue) {
 
 std::optional<double> WholeNumber(std::string_view pText) {
     const std::string_view number = Trim(pText);
-    if (number.empty() || NumberLength(number) != number.size()) {
+    if (number.empty() || LeadingNumber(number) != number) {
         return std::nullopt;
     }
     return ValueOf(number);

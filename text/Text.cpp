@@ -165,3 +165,9 @@ std::string WithoutNewLineBreaks(std::string_view pBefore, std::string_view pAft
     text += pAfter.substr(end);
     return text;
 }
+
+std::string Quoted(std::string_view pText) {
+    constexpr std::size_t mostBytes = 60;
+    const std::string text = WithoutNewLineBreaks("", pText.substr(0, mostBytes));
+    return '"' + text + (pText.size() > mostBytes ? "...\"" : "\"");
+}

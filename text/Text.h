@@ -43,6 +43,9 @@ bool BeginsWithIgnoringCase(std::string_view pText, std::string_view pStart);
 /// one unit.
 int Utf16Length(std::string_view pText);
 
+/// pText in double quotes for a message: on one line, and cut after 60 bytes.
+std::string Quoted(std::string_view pText);
+
 /// pAfter, the text of a single-line field after an edit of pBefore, with each line break that the edit
 /// brought in (CR, LF or CR LF) made a blank. Line breaks that pBefore had stay.
 std::string WithoutNewLineBreaks(std::string_view pBefore, std::string_view pAfter);

@@ -1,6 +1,7 @@
 #include "text/TextRow.h"
 
-#include <utility>
+#include <algorithm>
+#include <cstring>
 
 TextRow::TextRow(std::string_view pRun, std::span<const Place> pEnds)
     : myCount(static_cast<int>(pEnds.size())) {
@@ -14,34 +15,36 @@ TextRow::TextRow(std::string_view pRun, std::span<const Place> pEnds)
     myBlock = std::move(block);
 }
 
-TextRow::TextRow(const std::vector<std::string> &pTexts) {
-    std::string run;
-    std::vector<Place> ends;
+TextRow::TextRow(std::span<const std::string> pTexts) {
+    std::size_t bytes = 0;
     for (const std::string &text : pTexts) {
-        run += text;
-        ends.push_back(static_cast<Place>(run.size()));
+        bytes += text.size();
     }
-    *this = TextRow(run, ends);
+    TextRowRoom room;
+    TextRowBuilder builder(room, pTexts.size(), bytes);
+    for (const std::string &text : pTexts) {
+        builder.Append(text);
+    }
+    *this = builder.Row();
+}
+
+std::string_view TextRow::operator()(int pPlace) const {
+    if (pPlace < 1 || pPlace > myCount) {
+        return {};
+    }
+    const Place from = pPlace == 1 ? 0 : myBlock[pPlace - 2];
+    return {Begin() + from, myBlock[pPlace - 1] - from};
 }
 
 void TextRow::Set(int pPlace, std::string_view pText) {
     if (pPlace < 1) {
         return;
     }
-    std::string run;
-    std::vector<Place> ends;
-    for (int place = 1; place <= std::max(pPlace, myCount); ++place) {
-        run += place == pPlace ? pText : (*this)(place);
-        ends.push_back(static_cast<Place>(run.size()));
+    const int count = std::max(pPlace, myCount);
+    TextRowRoom room;
+    TextRowBuilder builder(room, static_cast<std::size_t>(count), Run().size() + pText.size(), Run());
+    for (int place = 1; place <= count; ++place) {
+        builder.Append(place == pPlace ? pText : (*this)(place));
     }
-    *this = TextRow(run, ends);
-}
-
-void TextRowRoom::Reserve(std::size_t pMostBytes, std::size_t pMostTexts) {
-    if (run.size() < pMostBytes + shortTextBytes) {
-        run.resize(pMostBytes + shortTextBytes);
-    }
-    if (ends.size() < pMostTexts) {
-        ends.resize(pMostTexts);
-    }
+    *this = builder.Row();
 }

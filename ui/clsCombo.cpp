@@ -1,6 +1,7 @@
 #include "ui/clsCombo.h"
 
 #include "platform/ComboBox.h"
+#include "platform/KeyCodes.h"
 #include "text/Files.h"
 #include "text/Text.h"
 
@@ -9,12 +10,8 @@ namespace {
 /// The keys whose release completes: the space bar, digits, letters, the numeric keypad and punctuation, but
 /// not those that erase, move the caret or do something else.
 bool TypesText(int pKeyCode) {
-    constexpr int space = 32;
-    constexpr int digit0 = 48;
-    constexpr int keypadDivide = 111;
-    constexpr int firstPunctuation = 128;
-    return pKeyCode == space || (pKeyCode >= digit0 && pKeyCode <= keypadDivide) ||
-           pKeyCode >= firstPunctuation;
+    return pKeyCode == keyCode::space || (pKeyCode >= keyCode::digit0 && pKeyCode <= keyCode::keypadDivide) ||
+           pKeyCode >= keyCode::firstAboveAscii;
 }
 
 } // namespace
@@ -36,15 +33,16 @@ void clsCombo::Clear() {
     myCB->Clear();
 }
 
-std::string clsCombo::LoadFromTxtFile(const std::string &pFn) {
+void clsCombo::LoadFromTxtFile(const std::string &pFn) {
+    myFault.clear();
     if (Dir(pFn).empty()) {
-        return {};
+        return;
     }
     TextInput file(pFn);
     while (!file.AtEnd()) {
         myCB->AddItem(std::string(file.LineInput()));
     }
-    return file.Fault();
+    myFault = file.Fault();
 }
 
 void clsCombo::myCB_KeyUp(int KeyCode, int /*Shift*/) {

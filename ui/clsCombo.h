@@ -25,8 +25,9 @@ public:
     void Clear();
 
     /// Adds each line of the file pFn, unchanged, to the end of the list; nothing when Dir doesn't find it.
-    /// The system's reason when the file is there and can't be read, else empty.
-    [[nodiscard]] std::string LoadFromTxtFile(const std::string &pFn);
+    void LoadFromTxtFile(const std::string &pFn);
+    /// The system's reason why the last file was there but could not be read. Empty when it could.
+    const std::string &Fault() const { return myFault; }
 
 private:
     void myCB_KeyUp(int KeyCode, int Shift);
@@ -35,4 +36,5 @@ private:
 
     ComboBox *myCB = nullptr;
     std::int16_t myMode = 0;
+    std::string myFault;
 };

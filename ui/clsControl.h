@@ -3,7 +3,7 @@
 /// share of the form's growth it takes. It never changes afterwards.
 #include <cstdint>
 
-class Control;
+class SizedControl;
 
 struct clsControl {
     std::int32_t Left = 0;
@@ -14,5 +14,5 @@ struct clsControl {
     double yr = 0; ///< share of the growth in height by which it moves down
     double wr = 0; ///< share of the growth in width by which it becomes wider
     double hr = 0; ///< share of the growth in height by which it becomes taller
-    Control *ctrl = nullptr;
+    SizedControl *ctrl = nullptr;
 };

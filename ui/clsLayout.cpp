@@ -4,51 +4,19 @@
 #include "text/Numbers.h"
 
 #include <algorithm>
-#include <stdexcept>
 
 namespace {
-
-/// An option string, or a control's place, that the layout can't work with.
-class Unfit : public std::runtime_error {
-public:
-    using std::runtime_error::runtime_error;
-};
-
-std::int16_t ShareNumber(std::string_view pText) {
-    const std::optional<std::int16_t> number = Integer16(Val(pText));
-    if (!number) {
-        throw Unfit("number beyond 16 bits");
-    }
-    return *number;
-}
-
-std::int32_t WholeTwips(double pTwips) {
-    const std::optional<std::int32_t> twips = Integer32(pTwips);
-    if (!twips) {
-        throw Unfit("place beyond 32 bits");
-    }
-    return *twips;
-}
 
 std::int32_t Growth(float pOuterSize, std::int32_t pMinimum) {
     return std::max(Integer32(static_cast<double>(pOuterSize) - pMinimum).value_or(0), 0);
 }
 
-/// One write of a property. A control that doesn't accept it stays as it is in that respect.
-template <typename Write> void Attempt(Write pWrite) {
-    try {
-        pWrite();
-    } catch (const NoSuchProperty &) {
-        return;
-    }
-}
-
 void Place(const clsControl &pRecord, std::int32_t pGrowthX, std::int32_t pGrowthY) {
-    Control &ctrl = *pRecord.ctrl;
-    Attempt([&] { ctrl.Left(pRecord.Left + pRecord.xr * pGrowthX); });
-    Attempt([&] { ctrl.Top(pRecord.Top + pRecord.yr * pGrowthY); });
-    Attempt([&] { ctrl.Width(pRecord.Width + pRecord.wr * pGrowthX); });
-    Attempt([&] { ctrl.Height(pRecord.Height + pRecord.hr * pGrowthY); });
+    SizedControl &ctrl = *pRecord.ctrl;
+    ctrl.Left(pRecord.Left + pRecord.xr * pGrowthX);
+    ctrl.Top(pRecord.Top + pRecord.yr * pGrowthY);
+    ctrl.Width(pRecord.Width + pRecord.wr * pGrowthX);
+    ctrl.Height(pRecord.Height + pRecord.hr * pGrowthY);
 }
 
 } // namespace
@@ -74,38 +42,36 @@ void clsLayout::SetLayout(Form &frm) {
 }
 
 void clsLayout::AddControl(Control &ctrl, const std::string &pOpts) {
-    clsControl record;
-    record.ctrl = &ctrl;
-    try {
-        record.xr = GetOpt("X=", pOpts);
-        record.yr = GetOpt("Y=", pOpts);
-        record.wr = GetOpt("W=", pOpts);
-        record.hr = GetOpt("H=", pOpts);
-        record.Left = WholeTwips(ctrl.Left());
-        record.Top = WholeTwips(ctrl.Top());
-        record.Width = WholeTwips(ctrl.Width());
-        record.Height = WholeTwips(ctrl.Height());
-    } catch (const std::runtime_error &) {
-        return; // Registered whole or not at all.
+    auto *const sized = dynamic_cast<SizedControl *>(&ctrl);
+    if (sized == nullptr) {
+        return;
     }
-    myCtrls.push_back(record);
+    const auto xr = GetOpt("X=", pOpts);
+    const auto yr = GetOpt("Y=", pOpts);
+    const auto wr = GetOpt("W=", pOpts);
+    const auto hr = GetOpt("H=", pOpts);
+    const auto left = Integer32(sized->Left());
+    const auto top = Integer32(sized->Top());
+    const auto width = Integer32(sized->Width());
+    const auto height = Integer32(sized->Height());
+    if (xr && yr && wr && hr && left && top && width && height) {
+        myCtrls.push_back({*left, *top, *width, *height, *xr, *yr, *wr, *hr, sized});
+    }
 }
 
-double clsLayout::GetOpt(std::string_view pKey, std::string_view pOpts) {
+std::optional<double> clsLayout::GetOpt(std::string_view pKey, std::string_view pOpts) {
     const std::size_t found = pOpts.find(pKey);
     if (found == std::string_view::npos) {
         return 0;
     }
     std::string_view value = pOpts.substr(found + pKey.size());
     value = value.substr(0, value.find(' '));
-    const std::int16_t numerator = ShareNumber(value);
     const std::size_t slash = value.find('/');
-    const std::int16_t denominator =
-        slash == std::string_view::npos ? std::int16_t{1} : ShareNumber(value.substr(slash + 1));
-    if (denominator == 0) {
-        throw Unfit("denominator of 0");
-    }
-    return static_cast<double>(numerator) / denominator;
+    const bool isFraction = slash != std::string_view::npos;
+    const auto numerator = Integer16(Val(value));
+    const auto denominator = Integer16(isFraction ? Val(value.substr(slash + 1)) : 1);
+    const bool isShare = numerator && denominator && *denominator != 0;
+    return isShare ? std::optional(static_cast<double>(*numerator) / *denominator) : std::nullopt;
 }
 
 void clsLayout::EnforceMinimum() {

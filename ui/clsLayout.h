@@ -5,10 +5,12 @@
 #include "ui/clsControl.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+class Control;
 class Form;
 
 class clsLayout {
@@ -29,12 +31,12 @@ public:
     /// their records. Does nothing before SetLayout, and nothing while a pass is running.
     void RedrawLayout();
 
-    /// Registers one control with the option string pOpts. One that has no place or size, or whose option
-    /// string holds a number out of 16 bits or a denominator of 0, is left out quietly.
+    /// Registers one control with the option string pOpts. Leaves out, quietly, a control that has no place,
+    /// and one whose option string holds a number out of 16 bits or a denominator of 0.
     void AddControl(Control &ctrl, const std::string &pOpts);
 
 private:
-    static double GetOpt(std::string_view pKey, std::string_view pOpts);
+    static std::optional<double> GetOpt(std::string_view pKey, std::string_view pOpts);
     void EnforceMinimum();
 
     Form *myFrm = nullptr;

@@ -128,6 +128,13 @@ TextRow clsListViewRpt::Row(std::int16_t pRow) const {
     return item == nullptr ? TextRow() : item->Texts();
 }
 
+void clsListViewRpt::Row(std::int16_t pRow, TextRow pCells) {
+    ListItem *item = Item(pRow);
+    if (item != nullptr) {
+        item->Texts(std::move(pCells));
+    }
+}
+
 void clsListViewRpt::Del() {
     if (myLV->SelectedIndex() > 0) {
         myLV->ListItems.Remove(myLV->SelectedIndex());

@@ -47,6 +47,7 @@ public:
     void AddRow(TextRow pCells = {});
     /// All texts of row pRow at once, column c at place c + 1.
     TextRow Row(std::int16_t pRow) const;
+    void Row(std::int16_t pRow, TextRow pCells);
     /// Removes the selected row, if there is one.
     void Del();
 

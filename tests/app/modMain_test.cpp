@@ -40,13 +40,13 @@ TEST(Start, EndsWithOneMessageOnABadCommandLine) {
     for (const char *command :
          {"a b c", "\"\" b /csv c", "1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18 19 20 21 22 23"}) {
         Program program;
-        program.Script().Expect(
-            {"Usage: \r\nNorvoEditDat [[specfile] datfile] [/t title] [/csv|/csvh]", 0, "NorvoEditDat"});
+        program.Script().Expect({"Usage: \r\nNorvoEditDat [[specfile] datfile] [/t title] [/csv|/csvh]",
+                                 MessageButtons::Ok, "NorvoEditDat"});
         EXPECT_EQ(program.Start(command).ExitStatus(), 1);
     }
     Program program;
-    program.Script().Expect(
-        {"Specification file: " + program.Files().Path() + "\\no spec doesn't exist.", 16, caption});
+    program.Script().Expect({"Specification file: " + program.Files().Path() + "\\no spec doesn't exist.",
+                             MessageButtons::CriticalStop, caption});
     EXPECT_EQ(program.Start("/t Title \"no spec\" a.dat").ExitStatus(), 1);
 }
 
@@ -66,7 +66,8 @@ TEST(Start, SaysWhatIsWrongWithASpecification) {
         Program program;
         const std::string spec = program.Files().Write("spec.csv", CrLf(bytes));
         const std::string told = fault.starts_with("File {}") ? "File " + spec + fault.substr(7) : fault;
-        program.Script().Expect({"Error in specification file:\n" + spec + "\n" + told, 16, caption});
+        program.Script().Expect(
+            {"Error in specification file:\n" + spec + "\n" + told, MessageButtons::CriticalStop, caption});
         EXPECT_EQ(program.Start("/csv /t Title \"" + spec + "\" a.dat").ExitStatus(), 1) << bytes;
     }
 }
@@ -77,8 +78,8 @@ TEST(Start, SaysWhichFileCanNotBeRead) {
     program.Files().Write("NorvoEditDat.dat", "1,4\r\nA,100,1,/dev/null\r\n");
     program.Script().Expect({"List file /dev/null can't be read: Not a regular file. The list of \"A\" is "
                              "empty, and the field takes any text.",
-                             0, caption});
-    program.Script().Expect({"File /dev/null can't be read: Not a regular file.", 0, "T"});
+                             MessageButtons::Ok, caption});
+    program.Script().Expect({"File /dev/null can't be read: Not a regular file.", MessageButtons::Ok, "T"});
     program.Start("/t T /dev/null").Type("A", "any").Press("Add");
     EXPECT_EQ(program.Window(), "T\nA[any]\n  any\nAdd (Move Up) (Delete) (Move Down) Save As Cancel\n");
 }
@@ -90,7 +91,7 @@ TEST(MainWindow, FollowsItsSizeAndSnapsBackUnderTheMinimum) {
     const auto places = [&] {
         std::ostringstream text;
         for (const char *name : {"cmdAdd", "cmdSave", "ListView1", "lbl21", "cbo22"}) {
-            const Control &c = form.Controls(name);
+            const auto &c = dynamic_cast<const SizedControl &>(form.Controls(name));
             text << name << " " << c.Left() << " " << c.Top() << " " << c.Width() << " " << c.Height()
                  << ", ";
         }

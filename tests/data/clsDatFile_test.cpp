@@ -7,7 +7,6 @@
 namespace {
 
 using Grid = std::vector<std::vector<std::string>>;
-using Kind = clsDatFile::Fault::Kind;
 
 class DatFile : public testing::Test {
 protected:
@@ -29,7 +28,7 @@ protected:
         pTable.Fmt(pFmt);
         pTable.FileName(myFiles.File("table"));
         pTable.Save();
-        EXPECT_EQ(pTable.LastFault().text, "");
+        EXPECT_EQ(pTable.Fault(), "");
         return myFiles.Read("table");
     }
 
@@ -55,7 +54,7 @@ std::string InWords(const clsDatFile &pTable) {
             text += (j > 0 ? "|" : i > 0 ? "/" : " ") + pTable.Data(i, j);
         }
     }
-    return text + (pTable.LastFault().kind == Kind::WrongSize ? "!" : "");
+    return text + (!pTable.Fault().empty() && pTable.WasRead() ? "!" : "");
 }
 
 } // namespace

@@ -1,5 +1,5 @@
 // Keys, and what the fields of the real window make of the texts that come in.
-#include "desktop/KeyCodes.h"
+#include "desktop/KeyMap.h"
 #include "desktop/TextCodec.h"
 #include "tests/desktop/Bench.h"
 

@@ -149,9 +149,12 @@ protected:
 };
 
 TEST_F(Boxes, takeEsc) {
-    for (const auto &[buttons, answer] : {std::pair{1, 2}, std::pair{0, 1}, std::pair{16, 1}}) {
+    for (const auto &[buttons, answer] : {std::pair{MessageButtons::OkAndCancel, MessageAnswer::Cancel},
+                                          {MessageButtons::Ok, MessageAnswer::Ok},
+                                          {MessageButtons::CriticalStop, MessageAnswer::Ok}}) {
         Meanwhile<QMessageBox>([](QMessageBox &pBox) { Send(pBox, Qt::Key_Escape); });
-        EXPECT_EQ(desktop.ShowMessage({"Are you sure?", buttons, "Quit"}), answer) << buttons;
+        EXPECT_EQ(desktop.ShowMessage({"Are you sure?", buttons, "Quit"}), answer)
+            << static_cast<int>(buttons);
     }
 }
 
@@ -166,10 +169,11 @@ TEST_F(Boxes, letNothingThroughAndShowWhatTheHandlerHasDoneSoFar) {
             EXPECT_EQ(pBox.parentWidget(), window);
             pBox.button(QMessageBox::Ok)->click();
         });
-        acts += std::to_string(desktop.ShowMessage({"<b>\"a\"</b> & b", 1, "Quit"}));
+        const Message question{"<b>\"a\"</b> & b", MessageButtons::OkAndCancel, "Quit"};
+        acts += desktop.ShowMessage(question) == MessageAnswer::Ok ? "OK" : "Cancel";
     });
     addButton->click();
-    EXPECT_EQ(acts, "1");
+    EXPECT_EQ(acts, "OK");
     EXPECT_EQ(name.Text(), "kept");
 }
 

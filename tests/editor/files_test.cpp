@@ -30,14 +30,14 @@ TEST(Opening, ShowsTheRecordsOrOneMessage) {
             message.replace(at, 2, program.Files().Path());
         }
         if (!message.empty()) {
-            program.Script().Expect({"File " + name + message, 0, caption});
+            program.Script().Expect({"File " + name + message, MessageButtons::Ok, caption});
         }
         EXPECT_EQ(program.Choose("FileOpen").Rows(), rows) << bytes;
         EXPECT_EQ(program.Buttons().find("(Save As)") != std::string::npos, *rows == '\0') << bytes;
     }
     // A CSV file whose first line has no words ends the program.
     Program csv;
-    csv.Script().Expect({"clsDatFile.Cols out of bounds ( 0)", 0, "NorvoEditDat"});
+    csv.Script().Expect({"clsDatFile.Cols out of bounds ( 0)", MessageButtons::Ok, "NorvoEditDat"});
     EXPECT_EQ(csv.Start("/csv " + csv.Files().Write("a.csv", "\"a\r\n")).ExitStatus(), 1);
 }
 
@@ -83,7 +83,8 @@ TEST(Saving, TellsAFailureOnceAndKeepsTheRecords) {
     const std::string whole = "1,3\r\n\"Ann\",\"\",\"Apple\"\r\n";
     const auto fails = [&](const std::string &pTarget, const std::string &pReason) {
         program.Script().ExpectSave(pTarget);
-        program.Script().Expect({"File " + pTarget + " can't be saved: " + pReason, 0, caption});
+        program.Script().Expect(
+            {"File " + pTarget + " can't be saved: " + pReason, MessageButtons::Ok, caption});
         EXPECT_EQ(program.Press("Save As").Window(), window);
     };
     const std::string kept = ". The records are still in the list.";
@@ -111,11 +112,11 @@ TEST(Saving, TellsAFailureOnceAndKeepsTheRecords) {
 #endif
 
 TEST(Leaving, AsksOnEveryWayButTheCloseBox) {
-    const Message question{"Are you sure?", 1, "Quit"};
+    const Message question{"Are you sure?", MessageButtons::OkAndCancel, "Quit"};
     Program program;
     const std::string before = program.StartOn("1,3\na,Oslo,c\n").Pick(0).Type("City", "unlisted").Window();
-    program.Script().Expect(question, ScriptedDesktop::answerCancel);
-    program.Script().Expect(question, ScriptedDesktop::answerCancel);
+    program.Script().Expect(question, MessageAnswer::Cancel);
+    program.Script().Expect(question, MessageAnswer::Cancel);
     EXPECT_EQ(program.PressEscape().Choose("FileExit").Window(), before);
     program.Script().Expect(question);
     EXPECT_EQ(program.Type("City", "Rome").Press("Cancel").ExitStatus(), 0);

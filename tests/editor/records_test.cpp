@@ -84,7 +84,7 @@ TEST(Records, AreAtMostAsManyAsATableHolds) {
     program.Files().Write("NorvoEditDat.dat", "1,4\r\nA,100,0,-\r\n");
     program.Start("/csv " + program.Files().Write("full.csv", rows + "last\r\n"));
     program.Script().Expect(
-        {"The list is full: it holds at most 32767 records.", 0, "Norvo Data File Editor"});
+        {"The list is full: it holds at most 32767 records.", MessageButtons::Ok, "Norvo Data File Editor"});
     program.Type("A", "more").Press("Add");
     EXPECT_EQ(program.Fields(), "A[more]");
     program.Pick(32765).Type("A", "other").Press("Update").Press("Move Down");
@@ -95,6 +95,6 @@ TEST(Records, AreAtMostAsManyAsATableHolds) {
     Program other;
     const std::string name = other.Files().Write("tooLong.csv", rows + "y\r\nz\r\n");
     const std::string tooMany = " has too many records. A table holds at most 32767, so none were read.";
-    other.Script().Expect({"File " + name + tooMany, 0, "Norvo Data File Editor"});
+    other.Script().Expect({"File " + name + tooMany, MessageButtons::Ok, "Norvo Data File Editor"});
     EXPECT_EQ(other.Start("/csv " + name).Rows(), "");
 }

@@ -49,11 +49,12 @@ void TypeOver(ComboBox &pBox, const std::string &pText) {
 }
 
 /// The fields with their headings, from the left.
-std::vector<std::pair<std::string, Control *>> FieldsOf(const Form &pForm) {
-    std::vector<std::pair<std::string, Control *>> fields;
+std::vector<std::pair<std::string, TextField *>> FieldsOf(const Form &pForm) {
+    std::vector<std::pair<std::string, TextField *>> fields;
     for (const auto &control : pForm.Controls()) {
         if (const auto *label = dynamic_cast<const Label *>(control.get())) {
-            fields.emplace_back(label->Caption().substr(1), &pForm.Controls("cbo" + label->Name().substr(3)));
+            auto &field = pForm.Controls("cbo" + label->Name().substr(3));
+            fields.emplace_back(label->Caption().substr(1), &dynamic_cast<TextField &>(field));
         }
     }
     return fields;

@@ -2,6 +2,7 @@
 /// The whole program under the user's hands: it starts on a command line, takes the user's verbs one after
 /// another as a desktop would pass them on, and shows its window as text. Its folder is a fresh one, in which
 /// the test puts the files; messages and file dialogs go by the script.
+#include "app/VersionRecord.h"
 #include "app/modMain.h"
 #include "platform/Runtime.h"
 #include "tests/support/ScriptedDesktop.h"

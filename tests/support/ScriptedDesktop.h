@@ -17,9 +17,6 @@ struct ProgramEnded {
 
 class ScriptedDesktop : public Desktop {
 public:
-    static constexpr int answerOk = 1;
-    static constexpr int answerCancel = 2;
-
     ~ScriptedDesktop() override {
         for (const Step &step : myScript) {
             ADD_FAILURE() << "Expected, but never came: " << step.what;
@@ -27,16 +24,16 @@ public:
     }
 
     /// The next thing to come is this message, compared whole. pAnswer is what the user presses.
-    void Expect(const Message &pMessage, int pAnswer = answerOk) {
+    void Expect(const Message &pMessage, MessageAnswer pAnswer = MessageAnswer::Ok) {
         myScript.push_back({InWords(pMessage), pAnswer, {}});
     }
     /// The next thing to come is a file dialog for opening, or for saving. pPath is what the user chooses;
     /// nothing: the user dismisses it.
     void ExpectOpen(const std::optional<std::string> &pPath) {
-        myScript.push_back({toOpen, answerOk, pPath});
+        myScript.push_back({toOpen, MessageAnswer::Ok, pPath});
     }
     void ExpectSave(const std::optional<std::string> &pPath) {
-        myScript.push_back({toSave, answerOk, pPath});
+        myScript.push_back({toSave, MessageAnswer::Ok, pPath});
     }
 
     /// What the file dialogs were asked to show, in order.
@@ -46,7 +43,7 @@ public:
     /// The documents and addresses handed over to be opened, in order.
     const std::vector<std::string> &Targets() const { return myTargets; }
 
-    int ShowMessage(const Message &pMessage) override { return Take(InWords(pMessage)).answer; }
+    MessageAnswer ShowMessage(const Message &pMessage) override { return Take(InWords(pMessage)).answer; }
     std::optional<std::string> ShowFileDialog(const Form & /*pForm*/,
                                               const FileDialogRequest &pRequest) override {
         myDialogs.push_back(pRequest);
@@ -66,17 +63,18 @@ private:
 
     struct Step {
         std::string what; ///< the message or dialog in words, by which it is compared
-        int answer;
+        MessageAnswer answer;
         std::optional<std::string> path;
     };
 
     static std::string InWords(const Message &pMessage) {
         return "message " + testing::PrintToString(pMessage.prompt) + ", buttons " +
-               std::to_string(pMessage.buttons) + ", title " + testing::PrintToString(pMessage.title);
+               std::to_string(static_cast<int>(pMessage.buttons)) + ", title " +
+               testing::PrintToString(pMessage.title);
     }
 
     Step Take(const std::string &pWhat) {
-        Step step{"nothing", answerCancel, {}}; // The program does least when it is told to cancel.
+        Step step{"nothing", MessageAnswer::Cancel, {}}; // The program does least when it is told to cancel.
         if (!myScript.empty()) {
             step = myScript.front();
             myScript.pop_front();

@@ -67,7 +67,8 @@ TEST(Files, OutputReplacesTheFileByAllThatWasPrinted) {
         output.PrintLine(text);
         wanted += text + "\r\n";
     }
-    EXPECT_EQ(output.Close().reason, "");
+    output.Close();
+    EXPECT_EQ(output.Fault(), "");
     EXPECT_TRUE(folder.Read("sub/out.dat") == wanted);
-    EXPECT_NE(TextOutput(folder.File("sub/out.dat\0"s), 0).Close().reason, "");
+    EXPECT_NE(TextOutput(folder.File("sub/out.dat\0"s), 0).Fault(), "");
 }

@@ -29,7 +29,9 @@ TEST(Layout, ReadsSharesFromOptionStrings) {
     form.Height(form.Height() + 10);
     layout.RedrawLayout();
     for (const auto &[options, left] : cases) {
-        EXPECT_EQ(form.Controls(options).Left(), left == -1 ? 100 : left) << options;
-        EXPECT_EQ(form.Controls(options).Top(), left == -1 ? 200 : 210) << options;
+        EXPECT_EQ(dynamic_cast<const Label &>(form.Controls(options)).Left(), left == -1 ? 100 : left)
+            << options;
+        EXPECT_EQ(dynamic_cast<const Label &>(form.Controls(options)).Top(), left == -1 ? 200 : 210)
+            << options;
     }
 }

@@ -1,0 +1,58 @@
+#pragma once
+/// A place in a text that moves from its start to its end. The scanners of lines, numbers and command text
+/// stand on it: they say what they expect next, and it says whether it was there.
+#include <cstddef>
+#include <cstring>
+#include <string_view>
+
+class Cursor {
+public:
+    explicit Cursor(std::string_view pText)
+        : myBegin(pText.data()), myAt(myBegin), myEnd(myBegin + pText.size()) {}
+
+    bool AtEnd() const { return myAt == myEnd; }
+    /// The next character. There must be one.
+    char Next() const { return *myAt; }
+    /// Passes the next character. There must be one.
+    void Pass() { ++myAt; }
+
+    /// How many characters have been passed.
+    std::size_t Place() const { return static_cast<std::size_t>(myAt - myBegin); }
+    /// The characters passed since the cursor was at pPlace.
+    std::string_view PassedSince(std::size_t pPlace) const { return {myBegin + pPlace, myAt}; }
+
+    /// Passes the next character if it is pWanted, and returns whether it was.
+    bool Take(char pWanted) {
+        if (AtEnd() || Next() != pWanted) {
+            return false;
+        }
+        Pass();
+        return true;
+    }
+
+    /// Passes all characters up to the first for which pBelongs is false, and returns them.
+    template <typename Predicate> std::string_view TakeWhile(Predicate pBelongs) {
+        const char *const from = myAt;
+        while (!AtEnd() && pBelongs(Next())) {
+            Pass();
+        }
+        return {from, myAt};
+    }
+    std::string_view TakeBlanks() {
+        return TakeWhile([](char pCharacter) { return pCharacter == ' '; });
+    }
+
+    /// Passes all characters up to the next pEnd, or up to the end of the text without one, and returns them.
+    std::string_view TakeUntil(char pEnd) {
+        const char *const from = myAt;
+        const void *const found =
+            AtEnd() ? nullptr : std::memchr(myAt, pEnd, static_cast<std::size_t>(myEnd - myAt));
+        myAt = found == nullptr ? myEnd : static_cast<const char *>(found);
+        return {from, myAt};
+    }
+
+private:
+    const char *myBegin;
+    const char *myAt;
+    const char *myEnd;
+};
