@@ -102,7 +102,7 @@ void clsDatFile::LoadCsv(bool pHasHeaders) {
         TakeFaultOf(file);
         return;
     }
-    TextRow first = modGetWords::GetWords(file.LineInput());
+    const TextRow first = modGetWords::GetWords(file.LineInput());
     if (TakeFaultOf(file)) {
         return;
     }
@@ -113,7 +113,7 @@ void clsDatFile::LoadCsv(bool pHasHeaders) {
     }
     Cols(static_cast<std::int16_t>(first.Count()));
     myStoredCols = myCols;
-    myData.assign(1, std::move(first));
+    myData.assign(1, first);
     TakeRowsUpToARaggedOne(file);
     if (TakeFaultOf(file)) {
         return;

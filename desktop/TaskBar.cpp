@@ -1,67 +1,43 @@
 #include "desktop/TaskBar.h"
 
+#ifdef NORVO_XCB
+
 #include <QGuiApplication>
-#include <QLibrary>
 #include <QWidget>
 #include <QtGui/qguiapplication_platform.h>
 
 #include <array>
-#include <cstdint>
 #include <cstdlib>
-#include <cstring>
+#include <string_view>
 
-#if QT_CONFIG(xcb)
+#include <xcb/xcb.h>
 
 namespace {
 
-struct Cookie {
-    unsigned sequence;
-};
-
-struct AtomReply {
-    std::uint8_t type;
-    std::uint8_t padding;
-    std::uint16_t sequence;
-    std::uint32_t length;
-    std::uint32_t atom;
-};
-
-using InternAtom = Cookie (*)(xcb_connection_t *, std::uint8_t, std::uint16_t, const char *);
-using InternAtomReply = AtomReply *(*)(xcb_connection_t *, Cookie, void **);
-using ChangeProperty = Cookie (*)(xcb_connection_t *, std::uint8_t, std::uint32_t, std::uint32_t,
-                                  std::uint32_t, std::uint8_t, std::uint32_t, const void *);
-
-constexpr std::uint8_t replace = 0;
-constexpr std::uint32_t atomType = 4;
-constexpr std::uint8_t bitsPerAtom = 32;
+xcb_atom_t Atom(xcb_connection_t *pConnection, std::string_view pName) {
+    const auto request =
+        xcb_intern_atom(pConnection, 0, static_cast<std::uint16_t>(pName.size()), pName.data());
+    xcb_intern_atom_reply_t *const reply = xcb_intern_atom_reply(pConnection, request, nullptr);
+    const xcb_atom_t atom = reply == nullptr ? xcb_atom_t{XCB_ATOM_NONE} : reply->atom;
+    std::free(reply);
+    return atom;
+}
 
 } // namespace
 
 void KeepOffTaskBar(const QWidget &pWindow) {
-    auto *x11 = qApp->nativeInterface<QNativeInterface::QX11Application>();
+    const auto *const x11 = qApp->nativeInterface<QNativeInterface::QX11Application>();
     if (x11 == nullptr) {
         return;
     }
-    // Qt's own part for X has loaded this library already. Linking it would cost a dependency for one hint.
-    QLibrary xcb(QStringLiteral("xcb"), 1);
-    const auto internAtom = reinterpret_cast<InternAtom>(xcb.resolve("xcb_intern_atom"));
-    const auto internAtomReply = reinterpret_cast<InternAtomReply>(xcb.resolve("xcb_intern_atom_reply"));
-    const auto changeProperty = reinterpret_cast<ChangeProperty>(xcb.resolve("xcb_change_property"));
-    if (internAtom == nullptr || internAtomReply == nullptr || changeProperty == nullptr) {
-        return;
-    }
-    xcb_connection_t *connection = x11->connection();
-    const auto atom = [&](const char *pName) {
-        const auto length = static_cast<std::uint16_t>(std::strlen(pName));
-        AtomReply *reply = internAtomReply(connection, internAtom(connection, 0, length, pName), nullptr);
-        const std::uint32_t value = reply == nullptr ? 0 : reply->atom;
-        std::free(reply);
-        return value;
-    };
-    const std::array states{atom("_NET_WM_STATE_SKIP_TASKBAR"), atom("_NET_WM_STATE_SKIP_PAGER")};
-    // Qt keeps the states that it finds on a window which is not shown yet.
-    changeProperty(connection, replace, static_cast<std::uint32_t>(pWindow.internalWinId()),
-                   atom("_NET_WM_STATE"), atomType, bitsPerAtom, states.size(), states.data());
+    xcb_connection_t *const connection = x11->connection();
+    constexpr std::uint8_t bitsPerAtom = 32;
+    const std::array states{Atom(connection, "_NET_WM_STATE_SKIP_TASKBAR"),
+                            Atom(connection, "_NET_WM_STATE_SKIP_PAGER")};
+    // Qt keeps the states that it finds on a window that is not shown yet.
+    xcb_change_property(connection, XCB_PROP_MODE_REPLACE, static_cast<xcb_window_t>(pWindow.internalWinId()),
+                        Atom(connection, "_NET_WM_STATE"), XCB_ATOM_ATOM, bitsPerAtom, states.size(),
+                        states.data());
 }
 
 #else

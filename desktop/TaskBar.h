@@ -1,6 +1,7 @@
 #pragma once
-/// Keeps a window off the task bar by the hint for its state, which leaves it an ordinary window in all else.
+/// The hint that keeps a window off the task bar. In all else the window stays an ordinary one.
 class QWidget;
 
-/// pWindow has been created and was not shown yet. Where the window system has no such hint nothing is done.
+/// Call it when pWindow has been created and before it is shown. Does nothing where the window system is not
+/// X11, or the build has not found its library.
 void KeepOffTaskBar(const QWidget &pWindow);

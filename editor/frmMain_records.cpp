@@ -10,6 +10,7 @@ TextField &frmMain::Field(int pIndex) const {
 
 TextRow frmMain::TextsOfFields() const {
     std::vector<std::string> texts;
+    texts.reserve(static_cast<std::size_t>(mySpec->Rows()));
     for (int i = 0; i < mySpec->Rows(); ++i) {
         texts.push_back(Field(i).Text());
     }

@@ -11,12 +11,10 @@ public:
     const char *TypeName() const override { return "CommonDialog"; }
 
     /// A description and a pattern, separated by "|"; blanks around either don't count.
-    const std::string &Filter() const { return myFilter; }
     void Filter(std::string pFilter) { myFilter = std::move(pFilter); }
 
     /// The folder to start in. One that isn't there gives way to the folder of the file chosen last, else to
     /// the current folder.
-    const std::string &InitDir() const { return myInitDir; }
     void InitDir(std::string pFolder) { myInitDir = std::move(pFolder); }
 
     /// Before the dialog the name to offer; its folder, where it has one, is entered. After it the chosen
