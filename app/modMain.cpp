@@ -13,7 +13,7 @@ using modArgcArgv::argv;
 
 namespace {
 
-/// A specification file and a data file.
+/// The command line names a specification file and a data file, and no more.
 constexpr std::size_t mostNames = 2;
 
 } // namespace

@@ -1,6 +1,6 @@
 #pragma once
-/// The entry: settles from the command line which files, title and format a run has, owns the forms, and runs
-/// the start sequence.
+/// The entry. It takes files, title and format from the command line, owns the forms, and runs the start
+/// sequence.
 #include <memory>
 #include <string>
 #include <vector>
@@ -23,7 +23,8 @@ public:
     std::string gSpecFile; ///< the specification file
     std::string gDatFile;  ///< the data file named on the command line, or empty
     std::string gTitle;    ///< the main window's title
-    bool gCanOpen = false; ///< no file was named: File Open is enabled, and none is opened at start
+    bool gCanOpen =
+        false; ///< the command line names no file: File Open is enabled, and nothing is opened at start
 
 private:
     /// Takes the switches, and returns the other words of the command line, in their order. Stops after the
@@ -34,7 +35,7 @@ private:
     [[noreturn]] void Usage() const;
 
     Runtime &myRuntime;
-    std::string fmtArg = "0"; ///< the form of the data file, a number of clsDatFile's as text
+    std::string fmtArg = "0"; ///< the form of the data file, as text: see clsDatFile::Fmt
     std::unique_ptr<frmAbout> myAbout;
     std::unique_ptr<frmMain> myMain;
 };

@@ -36,39 +36,40 @@ public:
     /// "csv" for the two CSV forms, else "dat".
     std::string FileType() const;
 
-    /// The titles for the header line, in any number.
+    /// The titles for the header line. There may be more or fewer than columns.
     void Headers(std::vector<std::string> pHeaders) { myHeaders = std::move(pHeaders); }
 
-    /// The size, apart from the storage: only Clear and Load make storage of it. Setting a value below 1
-    /// shows a message and ends the program.
+    /// The size. Only Clear and Load make storage of that size. A value below 1 shows a message and ends the
+    /// program.
     void Rows(std::int16_t n);
     std::int16_t Rows() const { return myRows; }
     void Cols(std::int16_t n);
     std::int16_t Cols() const { return myCols; }
 
-    /// A cell, row and column from 0. One that is not valid or has no storage reads empty and stores nothing.
+    /// A cell, by row and column from 0. A cell outside the table or without storage reads empty and ignores
+    /// writes.
     void Data(std::int16_t pRow, std::int16_t pCol, const std::string &pValue);
     std::string Data(std::int16_t pRow, std::int16_t pCol) const;
 
-    /// All cells of a row (from 0) at once, column c at place c + 1; those at the end that are empty may be
-    /// missing. A row that is not valid or has no storage reads empty and stores nothing.
+    /// All cells of a row (from 0) at once, column c as text c + 1. Empty cells at the end may be missing. A
+    /// row outside the table or without storage reads empty and ignores writes.
     void Row(std::int16_t pRow, TextRow pCells);
     TextRow Row(std::int16_t pRow) const;
 
-    /// Column x from row 0 to the last; all empty when x is no column.
+    /// Column x from row 0 to the last. All its texts are empty if there is no such column.
     std::vector<std::string> Col(std::int16_t x) const;
 
-    /// Swaps row pRow with the one above; nothing when pRow is not in 1 to Rows() - 1.
+    /// Swaps row pRow, from 1 to Rows() - 1, with the one above. Ignores any other number.
     void MoveRowUp(std::int16_t pRow);
 
-    /// Fresh storage for Rows() by Cols() empty cells.
+    /// Makes fresh storage for Rows() by Cols() empty cells.
     void Clear();
 
     /// Replaces size and cells from the file, which has to exist. Ends the program, after a message, when no
     /// file name is set or when the first row of a CSV file has no words.
     void Load();
 
-    /// Writes the table to the file; nothing when no file name is set.
+    /// Writes the table to the file. Does nothing if no file name is set.
     void Save();
 
     /// What went wrong with the file at the last Load or Save, in a sentence for the user that names the
@@ -107,8 +108,8 @@ private:
     std::int16_t myRows = 0;
     std::int16_t myCols = 0;
     std::vector<std::string> myHeaders;
-    /// The storage: an entry for each of its rows, with cells only as far as they were written, so that a
-    /// large announced size costs nothing. Its width is myStoredCols.
+    /// The storage, one entry for each row. An entry holds only the cells that were written, so a large
+    /// announced size costs nothing. myStoredCols is the width.
     std::vector<TextRow> myData;
     std::int16_t myStoredCols = 0;
     std::string myFault;

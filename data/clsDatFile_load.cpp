@@ -1,5 +1,6 @@
-// The two readers. They differ in how they learn the table's size and in what a ragged line leaves: the .dat
-// reader keeps the announced number of rows, the rest of them empty; the CSV reader has just the rows before.
+// The two readers. The .dat reader takes the size from the first line, the CSV reader counts. At a ragged
+// line both stop: the .dat reader keeps the announced number of rows, with the remaining ones empty, and the
+// CSV reader keeps the rows before that line.
 #include "data/clsDatFile.h"
 
 #include "data/modGetWords.h"
@@ -12,10 +13,10 @@
 
 namespace {
 
-/// A number of rows from here on says nothing to a reader. It may have hundreds of digits, or be an infinity.
+/// A message names no larger number of rows: it may have hundreds of digits, or be an infinity.
 constexpr double mostShownRows = 1e9;
 
-/// One of the two numbers on the first line. Text that isn't numeric counts as 0.
+/// One of the two numbers of the first line. Text that is no number counts as 0.
 double SizeItem(std::string_view pItem) {
     return WholeNumber(pItem).value_or(0);
 }
@@ -56,7 +57,7 @@ void clsDatFile::LoadDat() {
     StopWithoutFileName();
     TextInput file(myFn);
     TakeSizeFrom(file);
-    file.LineInput(); // Whatever else the first line holds.
+    file.LineInput(); // The first line may hold more than the two numbers.
     TakeAnnouncedRowsFrom(file);
     TakeFaultOf(file);
 }
@@ -73,7 +74,7 @@ void clsDatFile::TakeAnnouncedRowsFrom(TextInput &pFile) {
         }
         TextRow words = modGetWords::GetWords(pFile.LineInput(), room);
         if (words.Count() != myCols) {
-            return; // The rows from here on stay empty, and myRows stays as announced.
+            return; // The remaining rows stay empty, and myRows stays as announced.
         }
         myData[static_cast<std::size_t>(row)] = std::move(words);
     }

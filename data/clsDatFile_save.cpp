@@ -1,4 +1,4 @@
-// The two writers. They share the form of a row, and differ only in what stands before row 0.
+// The two writers. They share the form of a row, and differ only in the line before row 0.
 #include "data/clsDatFile.h"
 
 #include "text/CopyPart.h"
@@ -11,7 +11,7 @@
 
 namespace {
 
-/// The next double quote from pFrom on; pEnd when there is none.
+/// The next double quote from pFrom on, or pEnd.
 const char *NextQuote(const char *pFrom, const char *pEnd) {
     const auto length = static_cast<std::size_t>(pEnd - pFrom);
     const void *const found = length == 0 ? nullptr : std::memchr(pFrom, '"', length);
@@ -20,8 +20,8 @@ const char *NextQuote(const char *pFrom, const char *pEnd) {
 
 } // namespace
 
-/// Puts pField, a part of pRow, to pTo in the form that it has on disk, and returns the end of it. There must
-/// be room for copySlack bytes more than that form has.
+/// Writes pField, a part of pRow, to pTo in the form that fields have on disk, and returns the end of it. pTo
+/// needs room for copySlack bytes more than that.
 char *clsDatFile::Quote(std::string_view pField, bool pHasQuotes, std::string_view pRow, char *pTo) {
     *pTo++ = '"';
     if (!pHasQuotes) {
@@ -37,13 +37,14 @@ char *clsDatFile::Quote(std::string_view pField, bool pHasQuotes, std::string_vi
     return pTo;
 }
 
-/// As much room as any line needs: all bytes of a cell may be doubled, and three more come with it.
+/// The most bytes that any line needs: each byte of a cell may be doubled, and two quotes and a comma come
+/// with it.
 std::size_t clsDatFile::MostLineBytes(const TextRow &pTitles) const {
     std::size_t most = pTitles.Run().size();
     for (const TextRow &row : myData) {
         most = std::max(most, row.Run().size());
     }
-    constexpr std::size_t sizes = 16; // of the .dat form's first line
+    constexpr std::size_t sizes = 16; // the first line of the .dat form
     return std::max(sizes, 2 * most + 3 * static_cast<std::size_t>(myCols)) + copySlack;
 }
 
@@ -92,7 +93,7 @@ void clsDatFile::SaveCsv(bool pHasHeaders) {
     if (myFn.empty()) {
         return;
     }
-    const TextRow titles(myHeaders); // A row takes of them as many as it has fields; those missing are empty.
+    const TextRow titles(myHeaders); // PrintRow fills up missing titles and leaves out surplus ones.
     TextOutput file(myFn, MostLineBytes(titles));
     if (pHasHeaders) {
         PrintRow(file, titles);

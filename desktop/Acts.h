@@ -1,17 +1,17 @@
 #pragma once
-/// How the widgets hand an act of the user to the program. What follows is the same for every act, so it
-/// stands in one place, behind this face.
+/// The way by which widgets pass an act of the user to the program.
 #include <functional>
 
 class Acts {
 public:
     virtual ~Acts() = default;
 
-    /// Runs pAct, the call of one user's verb of a control or form, then brings all windows up to date, then
-    /// ends the program when no form is loaded any more. While a box waits for the user inside another act
-    /// nothing is run: assistive technology can press what is behind the box, the program must not.
+    /// Runs pAct, which calls one verb of a control or form. Then brings all windows up to date, and ends the
+    /// program if no form is loaded any more. Does nothing while a box waits for the user inside another act:
+    /// assistive technology can press buttons under the box, and the program must not act on it.
     virtual void Handle(const std::function<void()> &pAct) = 0;
 
-    /// The same for what has to be kept in step even behind a waiting box: a window's size, a field's text.
+    /// The same, but also under a waiting box, for acts that the program must keep up with: changes of a
+    /// window's size or a field's text.
     virtual void Note(const std::function<void()> &pAct) = 0;
 };

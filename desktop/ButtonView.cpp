@@ -38,8 +38,8 @@ void ButtonView::Show() {
 }
 
 void ButtonView::ShowEnabled() {
-    // Left to itself, Qt would give the focus of a disabled button to the next one, and the Space bar,
-    // pressed once more, would do something else than before.
+    // Qt would move the focus from a disabled button to the next one. A second press of the space bar would
+    // then do something else than the first.
     auto *form = dynamic_cast<FormWindow *>(window());
     if (!myButton.Enabled() && form != nullptr && form->focusWidget() == this) {
         form->FocusFallback();

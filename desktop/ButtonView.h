@@ -1,5 +1,5 @@
 #pragma once
-/// The face of a command button, with a caption or with a drawn triangle.
+/// The view of a command button, with a caption or a drawn triangle.
 #include "desktop/ControlView.h"
 #include "platform/Controls.h"
 

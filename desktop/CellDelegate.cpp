@@ -16,13 +16,13 @@ int MarginOf(const QStyleOptionViewItem &pOption) {
     return pOption.widget->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, &pOption, pOption.widget) + 1;
 }
 
-/// Whether pText runs from left to right and letter by letter, as all scripts below Hebrew's place do.
+/// Whether pText runs from left to right, letter by letter, as all scripts before Hebrew in Unicode do.
 bool IsPlain(const QString &pText) {
     constexpr char16_t hebrew = 0x0590;
     return std::all_of(pText.begin(), pText.end(), [](QChar pUnit) { return pUnit < hebrew; });
 }
 
-/// pText, which pLine is laid out of, cut with an ellipsis to pWidth; empty where not even that fits.
+/// pText cut to pWidth, with an ellipsis; empty if not even that fits. pLine is the layout of pText.
 QString Cut(const QString &pText, const QTextLine &pLine, const QFontMetrics &pMetrics, int pWidth) {
     if (!IsPlain(pText)) {
         return pMetrics.elidedText(pText, Qt::ElideRight, pWidth);
@@ -55,7 +55,7 @@ QPalette::ColorGroup GroupOf(QStyle::State pState) {
     return pState.testFlag(QStyle::State_Active) ? QPalette::Active : QPalette::Inactive;
 }
 
-/// The mark of the keyboard's place.
+/// Draws the mark of the focused cell.
 void DrawFocus(QPainter &pPainter, const QStyleOptionViewItem &pOption, QPalette::ColorGroup pGroup) {
     QStyleOptionFocusRect mark;
     mark.QStyleOption::operator=(pOption);
@@ -88,6 +88,6 @@ void CellDelegate::paint(QPainter *pPainter, const QStyleOptionViewItem &pOption
         DrawText(*pPainter, place, ToQtLine(myModel.Cell(pIndex), mostShown));
     }
     if (pOption.state.testFlag(QStyle::State_HasFocus) && !isSelected) {
-        DrawFocus(*pPainter, pOption, group); // Else the selection shows it.
+        DrawFocus(*pPainter, pOption, group); // A selected cell shows it by its colour.
     }
 }

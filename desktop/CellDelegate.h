@@ -1,6 +1,6 @@
 #pragma once
-/// Draws a cell of the list as the style would, but lays its text out once, where the style does three times,
-/// and not at all where none of it can be seen: of a wide table many columns are narrow.
+/// Draws a cell of the list as the style would, but faster: it lays the text out once instead of three times,
+/// and not at all in a column too narrow to show any of it.
 #include <QAbstractItemDelegate>
 
 class RecordModel;

@@ -10,7 +10,7 @@ bool IsBlack(const QPalette &pPalette) {
     return pPalette.color(QPalette::Window).lightness() < blackest;
 }
 
-/// Where the ground is black, a frame around what pOption stands for; thick where it has the focus.
+/// On a black ground, draws a frame around the control, a thick one if it has the focus.
 void DrawFrame(const QStyleOption &pOption, QPainter &pPainter) {
     if (!IsBlack(pOption.palette)) {
         return;

@@ -1,6 +1,6 @@
 #pragma once
-/// The desktop's style with outlines that stay to be seen on black: the Fusion style draws them a shade
-/// darker than the ground, and on the black of a high-contrast desktop that is no outline at all.
+/// The desktop's style with visible outlines on black. The Fusion style draws outlines a shade darker than
+/// the ground, so on the black of a high-contrast desktop they would vanish.
 #include <QProxyStyle>
 
 class ContrastStyle : public QProxyStyle {
@@ -8,7 +8,7 @@ public:
     using QProxyStyle::QProxyStyle;
 
     using QProxyStyle::polish;
-    /// Sees to it that what is off can still be read where the desktop's colours make it black on black.
+    /// Keeps disabled text readable: the desktop's colours may make it black on black.
     void polish(QPalette &pPalette) override;
     void drawPrimitive(PrimitiveElement pElement, const QStyleOption *pOption, QPainter *pPainter,
                        const QWidget *pWidget) const override;

@@ -9,7 +9,7 @@
 
 namespace {
 
-/// A view if pControl is of the kind Kind.
+/// Makes a view if pControl is a Kind. Returns whether it is.
 template <typename View, typename Kind>
 bool MakeAs(std::unique_ptr<ControlView> &pView, Acts &pActs, ::Control &pControl, QWidget &pParent) {
     auto *control = dynamic_cast<Kind *>(&pControl);

@@ -1,6 +1,6 @@
 #pragma once
-/// The face of one control of a form: a widget that shows the control's state and hands the user's acts on.
-/// It asks for the control's revision and does nothing while that stays the same.
+/// The view of one control: a widget that shows the control's state and passes on the user's acts. It
+/// compares revisions, and does nothing while the control's stays the same.
 #include "desktop/Acts.h"
 #include "platform/Control.h"
 
@@ -21,21 +21,21 @@ public:
     /// Brings the widget up to date if the control has changed since the last time.
     void Sync();
 
-    /// Whether the control would take the focus: it is of a kind that does, and is wide enough to be seen.
+    /// Whether the control can take the focus: its kind does so, and it has a visible size.
     bool TakesFocus() const { return FocusPolicy() != Qt::NoFocus && !PlaceOf().isEmpty(); }
 
-    /// Whether the focus may leave the control by the user's choice.
+    /// Whether the control lets the user move the focus away.
     virtual bool MayLoseFocus() const { return true; }
 
-    /// Whether the focus goes here when the button that has it is disabled.
+    /// Whether this control gets the focus when the button that has it is disabled.
     virtual bool TakesFocusOfDisabled() const { return false; }
 
 protected:
-    /// How the control takes the focus while it can be seen.
+    /// How the control takes the focus while it is visible.
     virtual Qt::FocusPolicy FocusPolicy() const { return Qt::NoFocus; }
-    /// Where the widget stands in the client area.
+    /// Place of the widget in the client area.
     virtual QRect PlaceOf() const;
-    /// Brings up to date what this kind of control has beyond place, state and names.
+    /// Updates what only this kind of control has, beyond place, state and names.
     virtual void Show() = 0;
     virtual void ShowEnabled();
 
@@ -48,5 +48,5 @@ private:
     int myShownRevision = 0;
 };
 
-/// A view of pControl inside pParent; nothing when that kind of control has no face of its own.
+/// Makes a view of pControl inside pParent; null if that kind of control has none.
 std::unique_ptr<ControlView> MakeView(Acts &pActs, ::Control &pControl, QWidget &pParent);

@@ -14,17 +14,17 @@
 namespace {
 
 constexpr int mostCharacters = std::numeric_limits<int>::max();
-/// A text of more bytes is shown by its beginning and can't be edited in a field: each key and each blink of
-/// the caret would measure all of it anew. The record keeps it whole.
+/// In bytes. A field shows only the start of a longer text, and does not let it be edited: Qt would measure
+/// all of it at each key and each blink of the caret. The record keeps the whole text.
 constexpr std::size_t mostEdited = 1'000'000;
 
-/// An access key that no button answers. To a line edit it would be a letter to type.
+/// Whether the key is an access key. A line edit would type its letter.
 bool IsAccessKey(const QKeyEvent &pEvent) {
     const auto held = pEvent.modifiers() & (Qt::AltModifier | Qt::ControlModifier | Qt::GroupSwitchModifier);
     return held == Qt::AltModifier && !pEvent.text().isEmpty() && pEvent.text().at(0).isPrint();
 }
 
-/// What a field shows of its text. It takes no edits while that is not all of it.
+/// The part of pText that a field shows. Makes pEdit read-only if that is not all of it.
 QString Shown(const std::string &pText, QLineEdit &pEdit) {
     const bool isTooLong = pText.size() > mostEdited;
     pEdit.setReadOnly(isTooLong);
@@ -36,7 +36,7 @@ QString Shown(const std::string &pText, QLineEdit &pEdit) {
 TextBoxView::TextBoxView(Acts &pActs, TextBox &pBox, QWidget &pParent)
     : QLineEdit(&pParent), ControlView(pActs, pBox), myBox(pBox) {
     setMaxLength(mostCharacters);
-    // Not textEdited: an edit by assistive technology doesn't send it.
+    // Not textEdited: an edit by assistive technology doesn't emit it.
     connect(this, &QLineEdit::textChanged, this, [this](const QString &pText) { Edited(pText); });
 }
 
@@ -56,7 +56,7 @@ void TextBoxView::Show() {
         return;
     }
     setText(shown);
-    // A text that the user is editing keeps the caret where it was; any other is seen from its start.
+    // While the user edits, the caret keeps its place. Any other text shows from its start.
     setCursorPosition(myIsEditing ? static_cast<int>(shown.size() - myCaretFromEnd) : 0);
 }
 
@@ -97,7 +97,7 @@ ComboBoxView::ComboBoxView(Acts &pActs, ComboBox &pBox, QWidget &pParent)
     setEditable(true);
     setCompleter(nullptr);
     setInsertPolicy(NoInsert);
-    // Its size is the form's affair; measuring 200,000 entries for it would be felt.
+    // The form sets the size. To measure 200,000 entries for it would take a noticeable time.
     setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
     setMaxVisibleItems(12);
     setModel(&myEntries);
@@ -111,7 +111,7 @@ ComboBoxView::ComboBoxView(Acts &pActs, ComboBox &pBox, QWidget &pParent)
 }
 
 ComboBoxView::~ComboBoxView() {
-    // Qt's part of the box goes after the entries, and must not read them any more.
+    // Qt's part of the box is destroyed after the entries, and must not read them then.
     disconnect(this, nullptr, this, nullptr);
     disconnect(lineEdit(), nullptr, this, nullptr);
 }
@@ -119,7 +119,7 @@ ComboBoxView::~ComboBoxView() {
 void ComboBoxView::PrepareEdit() {
     QLineEdit &edit = *lineEdit();
     edit.setMaxLength(mostCharacters);
-    // At these Qt searches the list for the text and picks what it finds. Picking is the user's.
+    // At these signals Qt would search the list for the text and pick an entry. Only the user picks.
     disconnect(&edit, &QLineEdit::editingFinished, this, nullptr);
     disconnect(&edit, &QLineEdit::returnPressed, this, nullptr);
     connect(&edit, &QLineEdit::textChanged, this, [this](const QString &pText) { Edited(pText); });
@@ -160,7 +160,7 @@ void ComboBoxView::ShowText() {
     const int start = myBox.SelStart();
     const int length = myBox.SelLength();
     if (length > 0 && (edit.selectionStart() != start || edit.selectionLength() != length)) {
-        // From its end to its start, so that the caret and what was typed stay in sight.
+        // From end to start, so that the caret and the typed text stay visible.
         edit.setSelection(start + length, -length);
     } else if (length == 0 && (edit.hasSelectedText() || edit.cursorPosition() != start)) {
         edit.setCursorPosition(start);
@@ -186,7 +186,7 @@ void ComboBoxView::Step(int pStep) {
 
 void ComboBoxView::showPopup() {
     {
-        // Qt's own current entry serves the popup alone. Setting it overwrites the text.
+        // Only the popup needs Qt's own current entry. To set it overwrites the text.
         const QScopedValueRollback showing(myIsShowing, true);
         setCurrentIndex(NearestIndex());
         ShowText();
@@ -196,7 +196,7 @@ void ComboBoxView::showPopup() {
 }
 
 void ComboBoxView::WidenPopup() {
-    // Of a long list a part has to do: measuring it all would be felt.
+    // To measure all of a long list would take a noticeable time.
     constexpr int mostMeasured = 500;
     constexpr int mostWidth = 480;
     int textWidth = 0;
@@ -214,7 +214,7 @@ void ComboBoxView::keyPressEvent(QKeyEvent *pEvent) {
     const int page = maxVisibleItems();
     const bool hasEntries = myBox.ListCount() > 0;
     if (pEvent->key() == Qt::Key_Return || pEvent->key() == Qt::Key_Enter || IsAccessKey(*pEvent)) {
-        pEvent->ignore(); // The form's default button may want it.
+        pEvent->ignore(); // The form may have a default button or an access key for it.
     } else if (isPlain && (pEvent->key() == Qt::Key_Up || pEvent->key() == Qt::Key_Down)) {
         if (hasEntries) {
             Step(pEvent->key() == Qt::Key_Up ? -1 : 1);
@@ -236,6 +236,6 @@ void ComboBoxView::keyReleaseEvent(QKeyEvent *pEvent) {
 }
 
 void ComboBoxView::wheelEvent(QWheelEvent *pEvent) {
-    // Over a closed box it would change the value of a field that the user only meant to pass.
+    // Over a closed box it would change a field that the user only scrolls past.
     pEvent->ignore();
 }

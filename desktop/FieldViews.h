@@ -1,5 +1,6 @@
 #pragma once
-/// The faces of the fields: text box and combo box. They follow every change of their text, whatever made it.
+/// The views of the fields: text box and combo box. They report every change of their text, from whatever
+/// source.
 #include "desktop/ControlView.h"
 #include "platform/ComboBox.h"
 #include "platform/Controls.h"
@@ -27,7 +28,7 @@ private:
     bool myIsEditing = false;
 };
 
-/// The entries of a combo box, read where they are.
+/// The entries of a combo box as a Qt model. It reads them in the box and keeps no copy.
 class ComboEntries : public QAbstractListModel {
 public:
     explicit ComboEntries(const ComboBox &pBox) : myBox(pBox) {}
@@ -64,11 +65,11 @@ private:
     void Edited(const QString &pText);
     void CaretMoved();
     void ShowText();
-    /// Makes the popup wide enough for its entries, where the box is narrower.
+    /// Makes the popup wide enough for its entries.
     void WidenPopup();
-    /// Picks the entry pStep further on from the current one, if there is one.
+    /// Picks the entry pStep places after the nearest one, or the first or last entry if that is too far.
     void Step(int pStep);
-    /// The current entry or, when none is, the one that says what the box says; -1 for none.
+    /// The current entry, else the one that equals the text, case ignored; -1 if there is none.
     int NearestIndex() const;
 
     ComboBox &myBox;

@@ -15,7 +15,7 @@ constexpr int nameColumn = 0;
 constexpr int sizeColumn = 1;
 constexpr int typeColumn = 2;
 
-/// The filter in Qt's form, a description with the pattern in parentheses.
+/// The filter in Qt's form: a description, and the pattern in parentheses.
 QString NameFilter(const FileDialogRequest &pRequest) {
     const QString description = ToQt(pRequest.description);
     const QString pattern = QStringLiteral("(%1)").arg(ToQt(pRequest.pattern));
@@ -45,7 +45,7 @@ FileDialog::FileDialog(QWidget *pParent, const FileDialogRequest &pRequest) : QF
     if (myNameEdit == nullptr || acceptButton == nullptr) {
         return;
     }
-    // Qt takes a name with a quote for a list of names and may find none in it.
+    // Qt reads a name with a quote as a list of names, and may find none in it.
     connect(myNameEdit, &QLineEdit::textChanged, this, [acceptButton](const QString &pName) {
         acceptButton->setEnabled(acceptButton->isEnabled() || pName.contains(u'"'));
     });
@@ -59,7 +59,7 @@ void FileDialog::FitColumns() {
     resize(roomySize.expandedTo(sizeHint()));
     auto *files = findChild<QTreeView *>(QStringLiteral("treeView"));
     if (files != nullptr) {
-        // Qt measures these with the settings that it would have saved, and cuts them without.
+        // Qt takes these widths from its saved settings. There are none, and its own widths are too small.
         const QFontMetrics metrics = files->fontMetrics();
         files->setColumnWidth(nameColumn, metrics.averageCharWidth() * 36);
         files->setColumnWidth(sizeColumn, metrics.averageCharWidth() * 13);
@@ -73,15 +73,15 @@ void FileDialog::accept() {
         QFileDialog::accept();
         return;
     }
-    // What stands in the field is the name. Qt would rather take what is marked in its list, which may be the
-    // preset file still, and takes a name with a quote for a list of names.
+    // The text in the field is the name. Qt would prefer the file selected in its list, which may still be
+    // the preset one, and would read a name with a quote as a list of names.
     const bool isInHome = name.startsWith(QStringLiteral("~/"));
     const QString path = isInHome                     ? QDir::homePath() + name.mid(1)
                          : QDir::isAbsolutePath(name) ? name
                                                       : directory().filePath(name);
     if (QFileInfo(path).isDir()) {
         setDirectory(path);
-        myNameEdit->clear(); // Left there, it would be looked for once more, inside itself.
+        myNameEdit->clear(); // Otherwise the next accept would look for it inside itself.
         return;
     }
     myChosen = path;
@@ -89,7 +89,7 @@ void FileDialog::accept() {
 }
 
 std::optional<std::string> FileDialog::Ask() {
-    // Dismissed, the dialog still has its preset name selected.
+    // A dismissed dialog still has its preset name selected.
     if (exec() != QDialog::Accepted) {
         return std::nullopt;
     }

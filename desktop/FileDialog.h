@@ -1,6 +1,6 @@
 #pragma once
-/// Qt's file dialog by the runtime's rules: one name, whatever it is; an open accepts a name that isn't
-/// there, a save asks nothing.
+/// Qt's file dialog by the runtime's rules: one name, whatever its characters. Opening accepts a name that
+/// doesn't exist; saving asks nothing.
 #include "platform/Desktop.h"
 
 #include <QFileDialog>
@@ -13,7 +13,7 @@ class FileDialog : public QFileDialog {
 public:
     FileDialog(QWidget *pParent, const FileDialogRequest &pRequest);
 
-    /// Shows the dialog and waits. The chosen path; nothing when it was dismissed.
+    /// Shows the dialog and waits. Returns the chosen path; null if the user dismissed the dialog.
     std::optional<std::string> Ask();
 
 protected:

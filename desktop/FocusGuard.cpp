@@ -15,7 +15,7 @@ const QWidget &ProxyOf(const QWidget &pWidget) {
     return *widget;
 }
 
-/// The widget that Qt would give the focus to for a click on pWidget; nothing when the focus would stay.
+/// The widget that would get the focus by a click on pWidget; null if the focus would stay.
 const QWidget *FocusedByClickOn(const QWidget *pWidget) {
     for (const QWidget *widget = pWidget; widget != nullptr; widget = widget->parentWidget()) {
         const QWidget &proxy = ProxyOf(*widget);
@@ -34,7 +34,7 @@ const QWidget *FocusedByClickOn(const QWidget *pWidget) {
 } // namespace
 
 bool FocusGuard::Refuses(const QMouseEvent &pPress) const {
-    // An open popup, the field's own list among them, takes the click and closes. A waiting box blocks it.
+    // An open popup, such as the field's own list, takes the click and closes. A waiting box blocks it.
     if (QApplication::activePopupWidget() != nullptr || QApplication::activeModalWidget() != nullptr) {
         return false;
     }

@@ -1,6 +1,6 @@
 #pragma once
-/// Keeps the focus in a field that refuses to lose it to a click. Qt moves the focus before a widget sees the
-/// press, so the press is caught at the window, and then nothing of the click is delivered.
+/// Keeps the focus in a field that refuses to lose it by a click. Qt moves the focus before any widget sees
+/// the press, so the guard catches the press at the window, and drops the whole click.
 #include <QObject>
 
 class FormWindow;
@@ -16,5 +16,5 @@ private:
     bool Refuses(const QMouseEvent &pPress) const;
 
     const FormWindow &myWindow;
-    Qt::MouseButtons mySwallowed; ///< the buttons whose press was refused and whose release is still to come
+    Qt::MouseButtons mySwallowed; ///< buttons whose press was dropped and whose release is still to come
 };

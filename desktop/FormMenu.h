@@ -14,7 +14,7 @@ class FormMenu {
 public:
     FormMenu(Acts &pActs, const Form &pForm, QMenuBar &pBar);
 
-    /// Brings the entries up to date with their items.
+    /// Updates the entries from their items.
     void Sync() const;
 
     bool IsEmpty() const { return myEntries.empty(); }

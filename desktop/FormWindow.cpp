@@ -13,10 +13,10 @@
 
 namespace {
 
-/// So long after the last change of size the window system is taken to have had its say.
+/// Milliseconds after the last change of size, when the size counts as settled.
 constexpr int settlingTime = 250;
 
-/// pPixels in twips; pNow itself where it is shown as pPixels, so that rounding looks like no change.
+/// pPixels in twips. Gives pNow back if it rounds to pPixels, so that rounding does not look like a change.
 float TwipsOf(int pPixels, float pNow) {
     return Pixels(pNow) == pPixels ? pNow : static_cast<float>(pPixels * twipsPerPixel);
 }
@@ -92,7 +92,8 @@ void FormWindow::SetTabOrder() const {
 }
 
 void FormWindow::ShowFocus() {
-    // Enter presses what has the focus from the first moment on, so it has to be seen before any Tab.
+    // Enter acts on the focused control from the first moment, so the user must see which one it is before
+    // any Tab.
     setAttribute(Qt::WA_KeyboardFocusChange);
     if (focusWidget() != nullptr) {
         focusWidget()->update();
@@ -168,7 +169,7 @@ void FormWindow::FollowForm() {
     if (State() != Form::stateNormal || given == WantedClient()) {
         return;
     }
-    // A window system that insists on a size gives it again at once; answering each time would never end.
+    // A window system that insists on a size gives it again at once. To answer each time would never end.
     if (!myIsReady || given != myCorrected) {
         myCorrected = myIsReady ? given : QSize();
         ResizeToForm();
@@ -217,7 +218,7 @@ bool FormWindow::event(QEvent *pEvent) {
     if (pEvent->type() == QEvent::WindowActivate) {
         ShowFocus();
     }
-    // The menu bar asks for another height, as with another font of the system.
+    // The menu bar wants another height, for example because the system has another font now.
     if (pEvent->type() == QEvent::LayoutRequest && myIsReady && myBar != nullptr &&
         myBar->height() != MenuHeight(width())) {
         if (State() == Form::stateNormal) {
@@ -233,7 +234,7 @@ void FormWindow::closeEvent(QCloseEvent *pEvent) {
     if (myIsReady) {
         myActs.Handle([this] { myForm.UserCloses(); });
     }
-    pEvent->setAccepted(!myIsReady); // Gone, unless a waiting box is in the way.
+    pEvent->setAccepted(!myIsReady); // The form stays loaded only if a box is waiting.
 }
 
 void FormWindow::keyPressEvent(QKeyEvent *pEvent) {
@@ -257,7 +258,7 @@ bool FormWindow::MayFocusMoveTo(const QWidget *pTarget) const {
 }
 
 bool FormWindow::focusNextPrevChild(bool pNext) {
-    // A refused Tab counts as done: the field must not get it as a character.
+    // A refused Tab counts as handled. Otherwise the field would get it as a character.
     return !MayFocusMoveTo(nullptr) || QWidget::focusNextPrevChild(pNext);
 }
 

@@ -1,6 +1,6 @@
 #pragma once
-/// The window of one form: menu bar, client area with a view for each control, and the user's acts on the
-/// window itself. It is made from what the form holds when it is shown.
+/// The window of one form: a menu bar, a view for each control, and the user's acts on the window itself. It
+/// shows the controls that the form has when the window is made.
 #include "desktop/ControlView.h"
 #include "desktop/FocusGuard.h"
 #include "desktop/FormMenu.h"
@@ -20,14 +20,14 @@ public:
     /// Brings the window and all its controls up to date with the form.
     void Sync();
 
-    /// The form is gone: the window leaves the screen and hands on nothing any more.
+    /// Takes the window off the screen and stops it from passing anything on. The form is gone.
     void Retire();
 
-    /// Whether the focus may leave where it is, by the user's choice, for pTarget; nothing: for wherever Tab
-    /// leads.
+    /// Whether the focused control lets the user move the focus to pTarget. Null stands for the target of
+    /// Tab.
     bool MayFocusMoveTo(const QWidget *pTarget) const;
 
-    /// Gives the focus to the control that takes it when the one that has it is disabled.
+    /// Moves the focus away from a button that is about to be disabled.
     void FocusFallback() const;
 
 protected:
@@ -56,14 +56,14 @@ private:
 
     Acts &myActs;
     Form &myForm;
-    QMenuBar *myBar = nullptr; ///< none when the form has no menu
+    QMenuBar *myBar = nullptr; ///< null if the form has no menu
     QWidget *myClient = nullptr;
     std::unique_ptr<FormMenu> myMenu;
     std::vector<std::unique_ptr<ControlView>> myViews;
     FocusGuard myGuard;
     bool myIsReady = false;
     int myShownRevision = 0;
-    QSize myCorrected; ///< the size given by the window system that was corrected last
+    QSize myCorrected; ///< the size from the window system that was corrected last
     bool myHasAskedAgain = false;
     QTimer mySettling;
 };

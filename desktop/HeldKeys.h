@@ -1,7 +1,6 @@
 #pragma once
-/// Keeps a key that is held down from deciding twice: Enter and Esc count when they go down and not when they
-/// repeat. The button that Enter pressed may be off by then and the focus elsewhere, or a box may be open in
-/// which the repeat would be the answer.
+/// Drops the repeats of a held Enter or Esc key, so that it decides once. By the time of a repeat the button
+/// may be disabled and the focus elsewhere, or a box may be open and take the repeat for its answer.
 #include <QObject>
 
 class HeldKeys : public QObject {

@@ -7,7 +7,7 @@
 #include <cmath>
 
 int Pixels(double pTwips) {
-    // What no screen can show must not overflow either.
+    // Sizes beyond any screen must not overflow.
     constexpr double most = 1 << 23;
     return static_cast<int>(std::lround(std::clamp(pTwips / twipsPerPixel, -most, most)));
 }
@@ -23,7 +23,7 @@ QRect PixelRect(const SizedControl &pControl) {
 QFont FormFont() {
     constexpr int formFontPixels = 11;
     QFont font;
-    // A family that isn't installed must not be named to Qt: the system would put another one in its place.
+    // Only an installed family will do. The system would replace any other by one of its choice.
     const QStringList installed = QFontDatabase::families();
     for (const auto *family : {"Tahoma", "Liberation Sans", "DejaVu Sans Condensed"}) {
         if (installed.contains(QLatin1String(family), Qt::CaseInsensitive)) {
@@ -35,8 +35,8 @@ QFont FormFont() {
     font.setWeight(QFont::Normal);
     font.setItalic(false);
     if (qGuiApp->devicePixelRatio() > 1) {
-        // Left to itself Qt hints nothing there, and a text in its field moves up and down by a pixel with
-        // the letters that reach below the line.
+        // Qt would turn hinting off. Text in a field would then move by a pixel as soon as a letter reaches
+        // below the line.
         font.setHintingPreference(QFont::PreferVerticalHinting);
     }
     return font;
@@ -68,7 +68,7 @@ QPalette LightPalette() {
 QIcon ProgramIcon() {
     QIcon icon;
     for (const int size : {16, 24, 32, 48, 64, 128}) {
-        // Without the format's name Qt would load every reader of pictures that is installed and ask it.
+        // Without the name of the format Qt would load and ask every installed reader of pictures.
         icon.addPixmap(QPixmap(QStringLiteral(":/icons/%1.png").arg(size), "PNG"));
     }
     return icon;

@@ -1,6 +1,6 @@
 #pragma once
-/// How the program looks beyond what the system's theme settles: places in pixels, the forms' own font, the
-/// palette of dialogs, and the program's icon.
+/// The look of the program, beyond the system's theme: places in pixels, the font of forms, the palette of
+/// dialogs, and the icon.
 #include "platform/Control.h"
 
 #include <QFont>
@@ -8,17 +8,17 @@
 #include <QPalette>
 #include <QRect>
 
-/// pTwips in logical pixels, 15 twips each, rounded.
+/// pTwips in logical pixels, rounded.
 int Pixels(double pTwips);
 
-/// The place of pControl in logical pixels. Both edges are rounded, so that neighbours meet; a negative size
+/// The place of pControl in logical pixels. Rounds both edges, so that neighbours meet. A negative size
 /// counts as 0.
 QRect PixelRect(const SizedControl &pControl);
 
-/// The font of what stands in a form's client area, whatever the system's own is.
+/// The font of a form's client area, whatever the system's font is.
 QFont FormFont();
 
-/// A light palette for windows that keep it in every theme.
+/// A light palette, for windows that are light in every theme.
 QPalette LightPalette();
 
 QIcon ProgramIcon();

@@ -19,10 +19,10 @@
 
 namespace {
 
-/// Of a longer prompt this much is shown, so that the box stays on the screen.
+/// A longer prompt is cut after this many UTF-16 units, so that the box fits on the screen.
 constexpr int mostOfPrompt = 4000;
 
-/// Whether pTarget is a web address or the like. One letter before the colon is a drive.
+/// Whether pTarget is a web address or the like. A single letter before the colon is a drive.
 bool IsAddress(const std::string &pTarget) {
     const QString scheme = QUrl(ToQt(pTarget)).scheme();
     return scheme.size() > 1;
@@ -31,8 +31,8 @@ bool IsAddress(const std::string &pTarget) {
 } // namespace
 
 QtDesktop::QtDesktop() {
-    // Qt's file dialog leaves a file of its own when it closes. The program keeps no state, so Qt is given a
-    // place where nothing can be written.
+    // Qt's file dialog writes a settings file when it closes. The program keeps no state, so the settings go
+    // to a place where Qt can't write.
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("/dev/null"));
     QCoreApplication::instance()->installEventFilter(&myHeldKeys);
 }
@@ -66,7 +66,7 @@ void QtDesktop::Note(const std::function<void()> &pAct) {
         pAct();
         Sync();
     }
-    // Only at the end of the outermost: what follows an unload in the same handler still has to run.
+    // Only the outermost act ends the program. The rest of a handler that unloads a form still has to run.
     if (myDepth == 0 && myRuntime != nullptr) {
         myRuntime->EndIfNoFormIsLoaded();
     }

@@ -1,6 +1,5 @@
 #pragma once
-/// The desktop port on Qt: message boxes, file dialogs, windows, opening of documents, the end of the
-/// process; and the one road by which the user's acts reach the program.
+/// The desktop port, by Qt. All acts of the user reach the program through it.
 #include "desktop/Acts.h"
 #include "desktop/FormWindow.h"
 #include "desktop/HeldKeys.h"
@@ -12,7 +11,7 @@
 
 class Runtime;
 
-/// It needs the toolkit's application object to be there.
+/// The application object of Qt must exist before.
 class QtDesktop : public Desktop, public Acts {
 public:
     QtDesktop();
@@ -20,10 +19,10 @@ public:
     QtDesktop(const QtDesktop &) = delete;
     QtDesktop &operator=(const QtDesktop &) = delete;
 
-    /// The runtime that is asked after each act whether a form is left. It has to be there before any act.
+    /// Sets the runtime, which ends the program when no form is left. To be called before any act.
     void Serves(const Runtime &pRuntime) { myRuntime = &pRuntime; }
 
-    /// The window of pForm; nothing while it isn't on the screen.
+    /// The window of pForm; null while it isn't on the screen.
     FormWindow *WindowOf(const Form &pForm) const;
 
     MessageAnswer ShowMessage(const Message &pMessage) override;
@@ -43,5 +42,5 @@ private:
     const Runtime *myRuntime = nullptr;
     std::map<const Form *, QPointer<FormWindow>> myWindows;
     HeldKeys myHeldKeys;
-    int myDepth = 0; ///< acts that are running, one inside the other
+    int myDepth = 0; ///< running acts, one inside the other
 };

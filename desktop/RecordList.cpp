@@ -15,7 +15,7 @@ RecordList::RecordList(Acts &pActs, ListView &pList, QWidget &pParent)
     : QTableView(&pParent), ControlView(pActs, pList), myList(pList), myModel(pList) {
     setModel(&myModel);
     Prepare();
-    // Not at once: Qt is in the middle of changing its selection.
+    // Later, because Qt is still changing its selection.
     mySelectedByOthers.setSingleShot(true);
     connect(&mySelectedByOthers, &QTimer::timeout, this, [this] { SelectedByOthers(); });
     connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
@@ -26,7 +26,7 @@ RecordList::RecordList(Acts &pActs, ListView &pList, QWidget &pParent)
 }
 
 RecordList::~RecordList() {
-    setModel(nullptr); // Qt's part of the list goes after the model.
+    setModel(nullptr); // Qt's part of the list is destroyed after the model.
 }
 
 void RecordList::Prepare() {
@@ -71,7 +71,7 @@ void RecordList::changeEvent(QEvent *pEvent) {
 }
 
 QRect RecordList::PlaceOf() const {
-    // The columns' widths count on the control's whole width, so the frame goes around it.
+    // The column widths add up to the control's whole width, so the frame lies outside it.
     const int frame = frameWidth();
     return ControlView::PlaceOf().adjusted(-frame, -frame, frame, frame);
 }
@@ -90,7 +90,7 @@ void RecordList::Show() {
 
 void RecordList::ShowColumns() {
     myShownColumns = myList.ColumnsRevision();
-    // The running edges are rounded, not each width: many narrow columns keep their sum.
+    // Rounds the edges rather than the widths, so that many narrow columns keep their sum.
     double edge = 0;
     int shownEdge = 0;
     for (int column = 1; column <= myList.ColumnHeaders.Count(); ++column) {
@@ -110,7 +110,7 @@ void RecordList::ShowRows() {
         myShownColumns = 0;
     }
     myModel.Reset();
-    updateGeometries(); // Else the scroll bars have no range yet to put their values into.
+    updateGeometries(); // Otherwise the scroll bars have no range yet for their values.
     verticalScrollBar()->setValue(top);
     horizontalScrollBar()->setValue(left);
     ShowSelection();
@@ -143,7 +143,7 @@ void RecordList::SelectedByOthers() {
         myActs.Handle([&] { myList.Pick(place); });
     }
     const QScopedValueRollback showing(myIsShowing, true);
-    ShowSelection(); // Where nothing was picked, the runtime's selection comes back.
+    ShowSelection(); // If nothing was picked, this restores the runtime's selection.
 }
 
 void RecordList::ScrollTo(int pRow) {
@@ -207,7 +207,7 @@ void RecordList::keyPressEvent(QKeyEvent *pEvent) {
         horizontalScrollBar()->triggerAction(QScrollBar::SliderSingleStepAdd);
         break;
     default:
-        pEvent->ignore(); // Qt's own search by letters would move the selection.
+        pEvent->ignore(); // Qt's search by letters would move the selection.
     }
 }
 
@@ -219,11 +219,11 @@ void RecordList::mousePressEvent(QMouseEvent *pEvent) {
 }
 
 void RecordList::mouseDoubleClickEvent(QMouseEvent *pEvent) {
-    mousePressEvent(pEvent); // Two quick clicks may well be on two rows.
+    mousePressEvent(pEvent); // Two quick clicks may be on two rows.
 }
 
 void RecordList::mouseMoveEvent(QMouseEvent * /*pEvent*/) {
-    // A drag picks nothing; Qt would move the selection along.
+    // A drag picks nothing. Qt would move the selection.
 }
 
 void RecordList::mouseReleaseEvent(QMouseEvent * /*pEvent*/) {}

@@ -1,6 +1,6 @@
 #pragma once
-/// The face of a ListView: a table in which the user picks rows. What is selected is the runtime's to say;
-/// Qt's own selection only shows it.
+/// The view of a ListView: a table in which the user picks rows. The runtime decides which row is selected;
+/// Qt's selection only shows it.
 #include "desktop/ControlView.h"
 #include "desktop/RecordModel.h"
 

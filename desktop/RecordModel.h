@@ -1,5 +1,5 @@
 #pragma once
-/// The rows of a ListView for Qt's table, read where they are.
+/// The rows of a ListView as a Qt model. It reads them in the list and keeps no copy.
 #include "platform/ListView.h"
 
 #include <QAbstractTableModel>
@@ -8,11 +8,11 @@ class RecordModel : public QAbstractTableModel {
 public:
     explicit RecordModel(const ListView &pList) : myList(pList) {}
 
-    /// Tells Qt that rows, cells and columns have changed. Until then it is told the old numbers, and what it
-    /// asks for beyond the new ones is empty. Selection, current row and scroll position don't survive this.
+    /// Tells Qt that rows, cells and columns have changed. Until then Qt sees the old counts, and cells that
+    /// are gone read empty. Drops selection, current row and scroll position.
     void Reset();
 
-    /// The text of a cell; empty when it isn't there.
+    /// The text of a cell; empty if it isn't there.
     std::string_view Cell(const QModelIndex &pIndex) const;
 
     int rowCount(const QModelIndex &pParent = {}) const override;

@@ -36,7 +36,7 @@ void LabelView::paintEvent(QPaintEvent *pEvent) {
 }
 
 void LabelView::mousePressEvent(QMouseEvent *pEvent) {
-    // Only a press that was taken brings its release here.
+    // Qt delivers a release only to the widget that took the press.
     pEvent->setAccepted(myLabel.IsLink() && pEvent->button() == Qt::LeftButton);
 }
 

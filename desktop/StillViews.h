@@ -1,11 +1,11 @@
 #pragma once
-/// The faces of the controls that take no focus: label, picture, line.
+/// The views of the controls that take no focus: label, picture, line.
 #include "desktop/ControlView.h"
 #include "platform/Controls.h"
 
 #include <QLabel>
 
-/// A label of one line says with an ellipsis that it is cut; a higher one breaks its text into lines.
+/// A label of one line ends in an ellipsis if it is cut. A higher one wraps its text.
 class LabelView : public QLabel, public ControlView {
 public:
     LabelView(Acts &pActs, const Label &pLabel, QWidget &pParent);

@@ -57,6 +57,6 @@ QString ToQtLine(std::string_view pText, int pMostUnits) {
 }
 
 QString ToQtTitle(std::string_view pText) {
-    // Said twice, the mark stands for itself.
+    // Written twice, the mark stands for itself.
     return ToQt(pText).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"));
 }

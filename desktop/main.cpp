@@ -1,4 +1,4 @@
-/// The program: puts the desktop under the runtime and the runtime under the editor, and runs the event loop.
+/// The program: composes desktop, runtime and editor, and runs the event loop.
 #include "app/VersionRecord.h"
 #include "app/modMain.h"
 #include "desktop/ContrastStyle.h"
@@ -16,7 +16,7 @@ int main(int argc, char *argv[]) {
     os::ReportWriteLimits();
     const std::string command = CommandText(std::vector<std::string>(argv + (argc > 0 ? 1 : 0), argv + argc));
 
-    // The toolkit must not see the words: it takes those that it knows for its own.
+    // Qt must not see the words: it would take those that it knows.
     std::string name(versionRecord::productName);
     char *words[] = {name.data(), nullptr};
     int wordCount = 1;

@@ -68,7 +68,7 @@ void frmMain::Form_Resize() {
     if (myLayout == nullptr) {
         return;
     }
-    // The columns come second: their widths are shares of the list's new one.
+    // The columns come second: their widths are shares of the list's new width.
     myLayout->RedrawLayout();
     AppCmd("Resize");
 }

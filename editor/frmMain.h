@@ -22,7 +22,7 @@ struct SpecColumn;
 
 class frmMain {
 public:
-    /// Field i is the control "cbo" and this number plus i, its label "lbl" and the same number.
+    /// The control of field i is named "cbo" and this number plus i, its label "lbl" and the same number.
     static constexpr int firstFieldNumber = 20;
 
     frmMain(Runtime &pRuntime, std::string pSpecFile, frmAbout &pAbout);
@@ -43,7 +43,7 @@ private:
     Form &myForm;
 
 public:
-    // The design-time controls, in the order of the form.
+    // The controls of the design, in the order of the form.
     CommonDialog &cDlg;
     CommandButton &cmdAdd;
     CommandButton &cmdMoveUp;

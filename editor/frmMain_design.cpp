@@ -1,5 +1,5 @@
-// The form as it was designed: its controls with their places, captions and layout rules, and which event
-// goes to which handler.
+// The form as designed: the controls with their places, captions and layout rules, and the handler of each
+// event.
 #include "editor/frmMain.h"
 
 #include "platform/Runtime.h"

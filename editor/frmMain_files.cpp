@@ -1,5 +1,5 @@
-// Files and leaving: records come from a data file into the list and go back out of it, and the program is
-// left. The data table is only the way to and from the file.
+// Files and leaving. Records go from a data file into the list and back, and the data table is only the way
+// between the two.
 #include "editor/frmMain.h"
 #include "platform/Runtime.h"
 #include "text/Files.h"
@@ -37,7 +37,7 @@ void frmMain::AppOpen(const std::string &pFn) {
 
 void frmMain::LoadList(const std::string &pFn) {
     myDat->Load();
-    // One message only. Of a file with other columns it matters little how many records it has.
+    // One message only: if the columns don't fit, the number of records matters little.
     if (myDat->WasRead() && myDat->Cols() != mySpec->Rows()) {
         TellFault(FormatMessage(pFn, *myDat, *mySpec));
         return;
@@ -56,7 +56,7 @@ void frmMain::AppSave(const std::string &pFn) {
         myDat->Row(i, myRpt->Row(i));
     }
     myDat->FileName(pFn);
-    myDat->Headers(Titles()); // A run that saves without having opened a file has none yet.
+    myDat->Headers(Titles()); // A run that has opened no file has no titles yet.
     myDat->Save();
     TellFault(myDat->Fault());
 }

@@ -14,7 +14,7 @@ constexpr Colour blue = 0x0000FF;
 constexpr Colour grey = 0x808080;
 constexpr Colour white = 0xFFFFFF;
 
-/// A control of the design, sizes in twips.
+/// Adds a control of the design. Sizes are in twips.
 template <typename Kind>
 Kind &Place(Form &pForm, const char *pName, double pLeft, double pTop, double pWidth, double pHeight) {
     auto &control = pForm.Add<Kind>(pName);
@@ -30,7 +30,7 @@ Label &PlaceLabel(Form &pForm, const char *pName, double pLeft, double pTop, dou
     return label;
 }
 
-/// A line from (pLeft, pTop) to the right, pPixels thick.
+/// Adds a line from (pLeft, pTop) to the right edge, pPixels thick.
 void PlaceLine(Form &pForm, const char *pName, double pLeft, double pTop, int pPixels, Colour pColour) {
     constexpr double rightEnd = 5654;
     Place<Line>(pForm, pName, pLeft, pTop, rightEnd - pLeft, pPixels * twipsPerPixel).BorderColor(pColour);
@@ -54,7 +54,7 @@ frmAbout::frmAbout(Runtime &pRuntime)
     Place<PictureBox>(myForm, "picIcon", 240, 240, 480, 480).TabIndex(1);
     PlaceLabel(myForm, "Label1", 960, 240, 615, 255, 6, "Product:");
     PlaceLabel(myForm, "Label2", 960, 480, 615, 225, 7, "Version:");
-    // Grey right above white looks like one etched line.
+    // Grey above white looks like one etched line.
     PlaceLine(myForm, "Line1(1)", 90, 2445, 1, grey);
     PlaceLine(myForm, "Line1(0)", 105, 2460, 2, white);
     lblCopyright.LooksLikeLink(blue);

@@ -1,5 +1,5 @@
 #pragma once
-/// The About box: the version record, and a link to the maker's page. It doesn't depend on the main window.
+/// The About box: the version record and a link to the maker's page. It does not depend on the main window.
 #include "platform/Controls.h"
 #include "platform/Form.h"
 
@@ -7,7 +7,7 @@ class frmAbout {
 public:
     explicit frmAbout(Runtime &pRuntime);
 
-    /// Loads the box, unless it is open, and brings it on screen.
+    /// Shows the box, or brings it to the front if it is open.
     void Show() { myForm.Show(); }
 
 private:

@@ -1,17 +1,17 @@
 #pragma once
-/// The hand-over of files and addresses to the desktop.
+/// Hands files and addresses over to the desktop.
 #include <string>
 
 class Runtime;
 
 namespace modBrowseTo {
 
-/// Hands pTarget, a file's path or a web address, to what the system opens it with. Whether anything opened
-/// is not looked at.
+/// Opens pTarget, the path of a file or a web address, with the program that the system has for it. Reports
+/// nothing.
 void BrowseTo(const Runtime &pRuntime, const std::string &pTarget);
 
-/// Opens the help page: the first that is there of the pages in the folder "Help" beside the program that are
-/// named after the program's file, after the product, and "index".
+/// Opens the help page from the folder "Help" beside the program. Its name is that of the program's file,
+/// else that of the product, else "index".
 void BrowseToHelp(const Runtime &pRuntime);
 
 } // namespace modBrowseTo

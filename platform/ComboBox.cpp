@@ -32,7 +32,7 @@ void ComboBox::ListIndex(int pIndex) {
     myListIndex = pIndex;
     if (pIndex >= 0) {
         TextField::Text(List(pIndex));
-        myWasTypedIn = false; // A text that was picked, say, is no typed one.
+        myWasTypedIn = false; // A picked entry is not typed text.
         SelStart(0);
     }
     Touch();
@@ -60,10 +60,10 @@ void ComboBox::UserEdits(const std::string &pText, int pSelStart) {
         return;
     }
     Text(WithoutNewLineBreaks(Text(), pText));
-    // Counted from the end, since a CR LF in front of the caret has become one character.
+    // A CR LF before the caret has become one character, so the caret counts from the end.
     SelStart(pSelStart + Utf16Length(Text()) - Utf16Length(pText));
     myWasTypedIn = myLastKeyDown != keyCode::back && myLastKeyDown != keyCode::del;
-    myLastKeyDown = 0; // A text that an input method brings comes without a key of its own.
+    myLastKeyDown = 0; // Text from an input method comes without a key of its own.
 }
 
 void ComboBox::UserSelects(int pSelStart, int pSelLength) {
@@ -73,7 +73,7 @@ void ComboBox::UserSelects(int pSelStart, int pSelLength) {
 
 void ComboBox::UserPicks(int pIndex) {
     ListIndex(pIndex);
-    SelLength(Utf16Length(Text())); // The next letter typed is the first of another text.
+    SelLength(Utf16Length(Text())); // The next letter typed begins another text.
 }
 
 bool ComboBox::TakeTyped() {

@@ -29,27 +29,26 @@ public:
     void AddItem(std::string pEntry);
     void Clear();
 
-    /// The current entry, -1 for none. Setting an entry's number puts its text into Text; -1 leaves Text as
-    /// it is.
+    /// The number of the current entry, -1 for none. To set an entry puts it into Text; -1 leaves Text alone.
     int ListIndex() const { return myListIndex; }
     void ListIndex(int pIndex);
 
-    /// The first entry that begins with pStart, case ignored; -1 when there is none.
+    /// The number of the first entry that begins with pStart, case ignored; -1 if there is none.
     int FindString(const std::string &pStart) const;
 
-    /// Caret and selection, in UTF-16 units of Text. Setting the start puts the caret there and selects
+    /// Caret and selection, in UTF-16 units of Text. To set the start puts the caret there and selects
     /// nothing.
     int SelStart() const { return mySelStart; }
     void SelStart(int pStart);
     int SelLength() const { return mySelLength; }
     void SelLength(int pLength);
 
-    /// Whether the user has changed the text, other than by erasing, since this was asked last. While keys
-    /// are typed fast, one is pressed before another is released, and only this tells whether a release has
-    /// anything to answer.
+    /// Returns whether the user has typed text since the last call. Erasing is not typing. A fast typist
+    /// presses a key before releasing the one before it, so not every release has new text to complete.
     bool TakeTyped();
 
-    /// The acts of the user. Key codes are the runtime's virtual-key codes; pShift is their bit field.
+    /// The acts of the user. pKeyCode is a code of KeyCodes.h; pShift is 1 for Shift, 2 for Control, 4 for
+    /// Alt.
     void UserPressesKey(int pKeyCode) { myLastKeyDown = pKeyCode; }
     void UserEdits(const std::string &pText, int pSelStart);
     void UserSelects(int pSelStart, int pSelLength);
@@ -60,7 +59,7 @@ public:
     bool MayLoseFocus() const;
 
     Event<int, int> KeyUp;  ///< key code, shift
-    Event<bool &> Validate; ///< Cancel: set to true, it keeps the focus in the box
+    Event<bool &> Validate; ///< Cancel: true keeps the focus in the box
 
 private:
     std::vector<std::string> myList;

@@ -11,7 +11,7 @@
 namespace {
 
 struct PathParts {
-    std::string folder; ///< with its closing separator; empty for a bare name
+    std::string folder; ///< with its closing separator; empty if the path is a bare name
     std::string name;
 };
 
@@ -36,7 +36,7 @@ void CommonDialog::Show(Purpose pPurpose) {
     if (os::IsFolder(preset.folder)) {
         myLastFolder = preset.folder;
     } else {
-        // In another folder the bare name would be another file, and perhaps one that is there.
+        // In another folder the bare name would name another file, perhaps an existing one.
         preset = {"", myFileName};
     }
     const std::size_t bar = std::min(myFilter.find('|'), myFilter.size());
@@ -45,7 +45,7 @@ void CommonDialog::Show(Purpose pPurpose) {
     request.description = Trim(std::string_view(myFilter).substr(0, bar));
     request.pattern = bar < myFilter.size() ? Trim(std::string_view(myFilter).substr(bar + 1)) : "";
     request.name = preset.name;
-    // The offered file's own folder is where the user expects to find it again.
+    // The user expects to find the offered file in its own folder.
     request.folder = !preset.folder.empty() ? preset.folder : myInitDir;
     if (!os::IsFolder(request.folder)) {
         request.folder = os::IsFolder(myLastFolder) ? myLastFolder : "";

@@ -1,6 +1,6 @@
 #pragma once
-/// The common file dialog: what a client sets before it is shown, and what it finds in FileName afterwards.
-/// It settles which folder is entered and which name stands in the field; showing it is the desktop's.
+/// The common file dialog. A client sets its properties, shows it, and then finds the chosen path in
+/// FileName. This class settles the folder and the name that the dialog starts with; the desktop shows it.
 #include "platform/Control.h"
 
 #include <string>
@@ -10,15 +10,15 @@ public:
     using Control::Control;
     const char *TypeName() const override { return "CommonDialog"; }
 
-    /// A description and a pattern, separated by "|"; blanks around either don't count.
+    /// A description and a pattern, separated by "|". Blanks around either don't count.
     void Filter(std::string pFilter) { myFilter = std::move(pFilter); }
 
-    /// The folder to start in. One that isn't there gives way to the folder of the file chosen last, else to
-    /// the current folder.
+    /// The folder to start in. If it doesn't exist, the dialog starts in the folder of the last chosen file,
+    /// else in the current folder.
     void InitDir(std::string pFolder) { myInitDir = std::move(pFolder); }
 
-    /// Before the dialog the name to offer; its folder, where it has one, is entered. After it the chosen
-    /// path as the user gave it, or empty when the dialog was dismissed.
+    /// Before the dialog: the name to offer. If it has a folder, the dialog starts there. After the dialog:
+    /// the chosen path as the user gave it, or empty if the user dismissed the dialog.
     const std::string &FileName() const { return myFileName; }
     void FileName(std::string pName) { myFileName = std::move(pName); }
 

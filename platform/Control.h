@@ -24,8 +24,7 @@ public:
     const std::string &Tag() const { return myTag; }
     void Tag(std::string pTag) { myTag = std::move(pTag); }
 
-    /// Goes up with each change that shows. A desktop that remembers the number that it showed last knows
-    /// whether it has anything to do.
+    /// Goes up with each visible change. A desktop remembers the number that it showed last.
     int Revision() const { return myRevision; }
 
 protected:
@@ -59,16 +58,15 @@ public:
     bool Enabled() const { return myEnabled; }
     void Enabled(bool pEnabled);
 
-    /// Place in the tab order, from 0; controls that were given none come last, in order of creation.
+    /// Place in the tab order, from 0. Controls without one come last, in order of creation.
     int TabIndex() const { return myTabIndex; }
     void TabIndex(int pIndex) { myTabIndex = pIndex; }
 
-    /// The text that appears when the pointer rests on the control. It also names a control without a
-    /// caption.
+    /// The text to show while the pointer rests on the control. It also names a control without a caption.
     const std::string &ToolTipText() const { return myToolTipText; }
     void ToolTipText(std::string pText) { myToolTipText = std::move(pText); }
 
-    /// The name that assistive technology reads out for the control; empty: its caption.
+    /// The name that assistive technology reads out for the control. If empty, the caption serves.
     const std::string &AccessibleName() const { return myAccessibleName; }
     void AccessibleName(std::string pName) { myAccessibleName = std::move(pName); }
     const std::string &AccessibleDescription() const { return myAccessibleDescription; }
@@ -87,13 +85,12 @@ private:
     std::string myAccessibleDescription;
 };
 
-/// A single-line field for a text of any length. Its kinds differ in the help that they offer while the user
-/// types.
+/// A single-line field for a text of any length.
 class TextField : public SizedControl {
 public:
     using SizedControl::SizedControl;
 
-    /// The text in the field. To set it shows it and runs no check.
+    /// The text in the field. To set it runs no check.
     const std::string &Text() const { return myText; }
     virtual void Text(const std::string &pText);
 

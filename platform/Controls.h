@@ -1,6 +1,7 @@
 #pragma once
-/// The simple controls: label, text box, button, menu item, and the still parts of a dialog (picture, line).
-/// A user's act is a verb of the control (Press, Choose, UserEdits); a desktop and the tests call the same.
+/// The simple controls: label, text box, button, menu item, and the parts of a dialog that take no input
+/// (picture, line). An act of the user is a verb of the control, such as Press; desktop and tests call the
+/// same verbs.
 #include "platform/Control.h"
 #include "platform/Event.h"
 
@@ -19,7 +20,7 @@ public:
     const std::string &Caption() const { return myCaption; }
     void Caption(std::string pCaption);
 
-    /// Makes the label look like a link: text in pColour, a pointing hand over it. It then takes clicks.
+    /// Makes the label a link: text in pColour, a pointing hand over it. Only a link takes clicks.
     void LooksLikeLink(Colour pColour);
     bool IsLink() const { return myIsLink; }
     Colour ForeColor() const { return myForeColor; }
@@ -48,7 +49,7 @@ public:
     using SizedControl::SizedControl;
     const char *TypeName() const override { return "CommandButton"; }
 
-    /// "&" stands before the letter of the access key.
+    /// "&" marks the letter of the access key.
     const std::string &Caption() const { return myCaption; }
     void Caption(std::string pCaption);
 
@@ -56,11 +57,11 @@ public:
     Picture Shows() const { return myPicture; }
     void Shows(Picture pPicture) { myPicture = pPicture; }
 
-    /// The form's cancel button, which the Esc key presses.
+    /// The Esc key presses the cancel button of the form.
     bool Cancel() const { return myIsCancel; }
     void Cancel(bool pIsCancel) { myIsCancel = pIsCancel; }
 
-    /// The form's default button, which the Enter key presses.
+    /// The Enter key presses the default button of the form.
     bool Default() const { return myIsDefault; }
     void Default(bool pIsDefault) { myIsDefault = pIsDefault; }
 
@@ -85,7 +86,7 @@ public:
     const std::string &Caption() const { return myCaption; }
     void Caption(std::string pCaption) { myCaption = std::move(pCaption); }
 
-    /// The entry in whose submenu this one stands; none for an entry of the menu bar.
+    /// The entry whose submenu holds this one; null for an entry of the menu bar.
     const MenuItem *Above() const { return myAbove; }
     void Above(const MenuItem &pItem) { myAbove = &pItem; }
 
@@ -115,7 +116,7 @@ public:
     const char *TypeName() const override { return "PictureBox"; }
 };
 
-/// A straight horizontal line; its Height is its thickness.
+/// A horizontal line. Its Height is its thickness.
 class Line : public SizedControl {
 public:
     using SizedControl::SizedControl;

@@ -1,5 +1,5 @@
 #pragma once
-/// The one port from the runtime to a real desktop: what only a desktop can do.
+/// The port from the runtime to a real desktop. It holds all that only a desktop can do.
 #include <optional>
 #include <string>
 
@@ -10,7 +10,7 @@ struct FileDialogRequest {
     std::string description; ///< of the files offered, such as "Data (*.dat)"
     std::string pattern;     ///< such as "*.dat"
     std::string folder;      ///< to start in; empty: the current folder
-    std::string name;        ///< to stand in the field; may be empty
+    std::string name;        ///< to offer in the field; may be empty
 };
 
 enum class MessageButtons {
@@ -31,23 +31,24 @@ class Desktop {
 public:
     virtual ~Desktop() = default;
 
-    /// Shows pMessage and waits for the user. Esc and the close box answer Cancel where it is offered, else
-    /// OK.
+    /// Shows pMessage and waits for the user. Esc and the close box answer Cancel if there is that button,
+    /// else OK.
     virtual MessageAnswer ShowMessage(const Message &pMessage) = 0;
 
-    /// Shows a file dialog over pForm and waits. The chosen path as the user gave it; nothing when dismissed.
-    /// A name that isn't there is accepted for opening as for saving, and nothing is asked before a file is
-    /// replaced.
+    /// Shows a file dialog over pForm and waits. Returns the chosen path as the user gave it; null if the
+    /// user dismissed the dialog. Opening and saving both accept a name that doesn't exist, and nothing is
+    /// asked before a file is replaced.
     virtual std::optional<std::string> ShowFileDialog(const Form &pForm,
                                                       const FileDialogRequest &pRequest) = 0;
 
     /// Brings pForm on screen, or to the front when it is there.
     virtual void ShowForm(Form &pForm) = 0;
 
-    /// pForm has been unloaded: takes it off the screen.
+    /// Takes pForm, which has been unloaded, off the screen.
     virtual void CloseForm(Form &pForm) = 0;
 
-    /// Hands a document's path or a web address to what the system opens it with. Nothing is reported.
+    /// Opens pTarget, a document's path or a web address, with the program that the system has for it.
+    /// Reports nothing.
     virtual void OpenTarget(const std::string &pTarget) = 0;
 
     /// Ends the process at once with pStatus.

@@ -1,5 +1,5 @@
 #pragma once
-/// An event of a form or control: one slot for one handler, connected in one visible place.
+/// An event of a form or control. It has one handler, connected in one visible place.
 #include <functional>
 
 template <typename... Arguments> class Event {

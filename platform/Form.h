@@ -1,6 +1,6 @@
 #pragma once
-/// A form: a window's caption, size and state, the controls that it owns, and its events. It exists without a
-/// screen; a desktop shows it and turns what the user does to the window into the verbs below.
+/// A form: the caption, size and state of a window, its controls, and its events. It needs no screen. A
+/// desktop shows it, and turns the acts of the user on the window into the verbs below.
 #include "platform/Control.h"
 #include "platform/Event.h"
 
@@ -19,8 +19,8 @@ public:
     static constexpr int stateMinimized = 1;
     static constexpr int stateMaximized = 2;
 
-    /// What Width and Height have over the client area: a fixed allowance for frame, title and menu bar. The
-    /// real frame is unknown before the window is on the screen and would look like growth.
+    /// A fixed allowance for frame, title and menu bar, by which Width and Height exceed the client area. The
+    /// size of the real frame becomes known only on the screen, and would look like growth then.
     static constexpr float frameWidthTwips = 240;
     static constexpr float frameHeightTwips = 1050;
 
@@ -37,46 +37,47 @@ public:
     BorderStyle Border() const { return myBorder; }
     void Border(BorderStyle pBorder) { myBorder = pBorder; }
 
-    /// Outer size in twips. Writing another value raises Resize before it returns.
+    /// Outer size in twips. To write another value raises Resize at once.
     float Width() const { return myWidth; }
     void Width(float pTwips);
     float Height() const { return myHeight; }
     void Height(float pTwips);
 
-    /// Size of the area that the controls stand in, in twips, below the menu bar.
+    /// Size of the area below the menu bar, which holds the controls, in twips.
     float ClientWidth() const { return myWidth - frameWidthTwips; }
     float ClientHeight() const { return myHeight - frameHeightTwips; }
-    /// Design-time size by the client area; raises nothing.
+    /// Sets the size by the client area. Raises nothing.
     void ClientSize(float pWidth, float pHeight);
 
     /// One of the three states above.
     int WindowState() const { return myWindowState; }
     void WindowState(int pState);
 
-    /// A new control of this form, behind those that it has. pName must be new.
+    /// Adds a control after those that the form has. Throws std::invalid_argument if it has one of that name.
     template <typename Kind> Kind &Add(const std::string &pName);
-    /// The control of that name; throws std::out_of_range when there is none.
+    /// The control of that name. Throws std::out_of_range if there is none.
     Control &Controls(const std::string &pName) const { return *myByName.at(pName); }
-    /// All controls in order of creation, menu items and invisible ones too.
+    /// All controls in order of creation, menu items and invisible controls included.
     const std::vector<std::unique_ptr<Control>> &Controls() const { return myControls; }
 
-    /// Creates the window, hidden, and raises Load before it returns. Does nothing when it is loaded.
+    /// Raises LoadEvent. Does nothing if the form is loaded already.
     void Load();
-    /// Raises Unload and closes the window. Does nothing when it isn't loaded.
+    /// Raises UnloadEvent and closes the window. Does nothing if the form isn't loaded.
     void Unload();
-    /// Loads the form if need be and brings it on screen. The first time the form gets its Resize.
+    /// Loads the form if it isn't loaded, and brings it on screen. The first time raises Resize.
     void Show();
     bool IsLoaded() const { return myIsLoaded; }
 
-    /// The user, or the window system, gave the window this client area (twips) and state.
+    /// The user or the window system has given the window this client area, in twips, and this state.
     void UserSizes(float pClientWidth, float pClientHeight, int pState);
-    /// The user closes the window by its close box, or the system does.
+    /// The user or the system closes the window.
     void UserCloses() { Unload(); }
-    /// Presses the cancel button, or the default button, if the form has one.
+    /// These press the cancel button and the default button, if the form has one.
     void UserPressesEscape() const;
     void UserPressesEnter() const;
 
-    /// Goes up when caption, state or size were set by the program.
+    /// Goes up when the program sets caption, state or size, and when it adds a control. The user's acts
+    /// don't raise it.
     int Revision() const { return myRevision; }
 
     Event<> LoadEvent;

@@ -102,8 +102,8 @@ void ListView::ItemAdded() {
 }
 
 void ListView::ItemRemoved(int pIndex) {
-    // The item behind a removed one moves into its place, so only what stood further down changes its number;
-    // behind the last one there is none, and the new last takes over.
+    // The item after the removed one moves into its place, so only a place further down changes. If there is
+    // none after it, the new last item takes over.
     const auto follow = [&](int pPlace) {
         return std::min(pPlace - (pIndex < pPlace ? 1 : 0), ListItems.Count());
     };

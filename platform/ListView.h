@@ -1,7 +1,6 @@
 #pragma once
-/// The list control in report view: items of a text and sub items under column headings, at most one of them
-/// selected. Positions count from 1 and are ints. It holds the rows once; a desktop reads them where they
-/// are.
+/// The list control in report view: items, each of a text and sub items, under column headings. At most one
+/// item is selected. Places count from 1. A desktop reads the rows here and keeps no copy.
 #include "platform/Control.h"
 #include "platform/Event.h"
 #include "text/TextRow.h"
@@ -19,7 +18,7 @@ class ListItem {
 public:
     ListItem(ListView &pOwner, TextRow pTexts) : myOwner(pOwner), myTexts(std::move(pTexts)) {}
 
-    /// The text holds until the item is changed.
+    /// Valid until the item changes.
     std::string_view Text() const { return myTexts(1); }
     void Text(std::string_view pText) { SetText(1, pText); }
 
@@ -27,14 +26,14 @@ public:
     int Index() const;
 
     int SubItemCount() const { return std::max(myTexts.Count() - 1, 0); }
-    /// The text of sub item pIndex, from 1; empty where there is none. It holds until the item is changed.
+    /// The text of sub item pIndex, from 1; empty if there is none. Valid until the item changes.
     std::string_view SubItems(int pIndex) const {
         return pIndex < 1 ? std::string_view() : myTexts(pIndex + 1);
     }
-    /// Sets the text of sub item pIndex, from 1, and makes it and those before it where they are missing.
+    /// Sets the text of sub item pIndex, from 1. Adds it, and those before it, if they are missing.
     void SubItems(int pIndex, std::string_view pText);
 
-    /// Text and sub items, the text at place 1.
+    /// The text and the sub items, as texts 1 and up.
     const TextRow &Texts() const { return myTexts; }
     void Texts(TextRow pTexts);
 
@@ -54,10 +53,10 @@ public:
     /// Item pIndex, from 1 to Count().
     ListItem &operator()(int pIndex) const { return *myItems[static_cast<std::size_t>(pIndex - 1)]; }
 
-    /// A new item at the end.
+    /// Appends an item.
     ListItem &Add(TextRow pTexts);
-    /// Removes item pIndex. When it was the selected one, the item that takes its place is selected, or the
-    /// new last one when it was the last.
+    /// Removes item pIndex. If it was selected, the item that takes its place is selected next, or the new
+    /// last item if it was the last.
     void Remove(int pIndex);
     void Clear();
 
@@ -103,18 +102,20 @@ public:
 
     /// The selected item, or nothing.
     ListItem *SelectedItem() const;
-    /// Place of the selected item, from 1; 0 when there is none, and to clear the selection.
+    /// Place of the selected item, from 1; 0 if none is selected. Setting 0 clears the selection.
     int SelectedIndex() const { return mySelected; }
     void SelectedIndex(int pIndex);
 
-    /// Place of the item that the keys start from, from 1; 0 in an empty list. It stays when the selection
-    /// is cleared.
+    /// Place of the item that the arrow keys start from, from 1; 0 in an empty list. It stays when the
+    /// selection is cleared.
     int CurrentIndex() const { return myCurrent; }
 
-    /// The user picks item pIndex (from 1 to Count), by mouse or key, also when it is selected already.
+    /// The user picks item pIndex, from 1 to Count, by mouse or key. Also raises ItemClick if the item is
+    /// selected already.
     void Pick(int pIndex);
 
-    /// Go up when rows or cells, the selection, or the columns have changed.
+    /// RowsRevision goes up when rows or cells change, ColumnsRevision when columns do. A change of the
+    /// selection raises neither, only Revision.
     int RowsRevision() const { return myRowsRevision; }
     int ColumnsRevision() const { return myColumnsRevision; }
 

@@ -28,7 +28,7 @@ void Runtime::Stop(const std::string &pPrompt) const {
 
 void Runtime::End(int pStatus) const {
     myDesktop.EndProcess(pStatus);
-    std::abort(); // Not reached, but the compiler does not believe that of a virtual function.
+    std::abort(); // Not reached. The compiler ignores that a virtual function never returns.
 }
 
 Form &Runtime::NewForm(const std::string &pName) {

@@ -1,5 +1,5 @@
 #pragma once
-/// The process as the program sees it: its command line and version record, messages, forms, and its end.
+/// The process as the program sees it: command line, version record, messages, forms, and the end.
 #include "platform/Desktop.h"
 #include "platform/Form.h"
 
@@ -21,8 +21,8 @@ struct AppRecord {
     int Revision = 0;
 };
 
-/// The command text that the words pWords (without the program's own) stand for: joined by one blank; a word
-/// that is empty or holds a blank in double quotes; a word that itself holds a double quote as it is.
+/// Makes a command text of pWords, the words after the program's name. Joins them by blanks. A word that is
+/// empty or holds a blank gets double quotes, unless it holds a double quote itself.
 std::string CommandText(const std::vector<std::string> &pWords);
 
 class Runtime {
@@ -41,14 +41,14 @@ public:
     /// Shows pPrompt under the application's title, then ends the program with exit status 1.
     [[noreturn]] void Stop(const std::string &pPrompt) const;
 
-    /// Ends the program at once: no further statement runs and no unload event comes.
+    /// Ends the program at once. No further statement runs, and no unload event comes.
     [[noreturn]] void End(int pStatus = 0) const;
 
-    /// A new form, not loaded, owned by the runtime for the rest of the run.
+    /// Makes a form, not yet loaded. The runtime owns it to the end.
     Form &NewForm(const std::string &pName);
 
-    /// Ends the program when no form is loaded any more. A desktop calls it when a handler has returned, so
-    /// that what follows an unload in the same handler still runs.
+    /// Ends the program if no form is loaded any more. A desktop calls it after each handler, so that a
+    /// handler that unloads a form runs to its end.
     void EndIfNoFormIsLoaded() const;
 
 private:

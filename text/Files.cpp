@@ -7,7 +7,7 @@
 
 namespace {
 
-/// Enough that the system's calls cost nothing, and little enough to stay in the processor's cache.
+/// Large enough that the system's calls cost nothing, and small enough for the processor's cache.
 constexpr std::size_t blockBytes = std::size_t{64} << 10U;
 
 constexpr std::string_view lineEnd = "\r\n";
@@ -26,7 +26,8 @@ bool TextInput::AtEnd() {
     return Unread().empty() && !ReadMore();
 }
 
-/// Reads on behind what is unread; false when the file has no more, after which nothing moves.
+/// Appends the next bytes of the file to the unread ones. Returns false, and moves nothing, at the end of the
+/// file.
 bool TextInput::ReadMore() {
     if (!myHasMore) {
         return false;
@@ -50,12 +51,12 @@ void TextInput::MakeRoom() {
     std::copy(Unread().begin(), Unread().end(), myBuffer.begin());
     myEnd -= std::exchange(myAt, 0);
     if (2 * myEnd >= myBuffer.size()) {
-        // A line takes up most of it.
+        // One line takes up most of the buffer.
         myBuffer.resize(std::clamp(2 * myBuffer.size(), blockBytes, mostLineBytes));
     }
 }
 
-/// Length of the rest of the current line, all of which is in the buffer then.
+/// Length of the rest of the current line. Reads until all of it is in the buffer.
 std::size_t TextInput::LineLength() {
     std::size_t searched = 0;
     for (;;) {
@@ -73,7 +74,7 @@ std::size_t TextInput::LineLength() {
 std::string_view TextInput::LineInput() {
     const std::size_t length = LineLength();
     if (Unread().size() < length + 2) {
-        ReadMore(); // An LF that belongs to the CR may come with the next block.
+        ReadMore(); // The LF after the CR may come with the next block.
     }
     const std::string_view line = Unread().substr(0, length);
     const std::string_view end = Unread().substr(length, 2);
@@ -82,7 +83,7 @@ std::string_view TextInput::LineInput() {
 }
 
 std::optional<std::string_view> TextInput::InputItem() {
-    const std::size_t length = LineLength(); // First, since it moves what is unread.
+    const std::size_t length = LineLength(); // First, since this may move the unread bytes.
     Cursor line(Unread().substr(0, length));
     line.TakeBlanks();
     const bool isThere = !line.AtEnd();

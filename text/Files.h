@@ -1,6 +1,6 @@
 #pragma once
-/// Text files as the logic sees them: looked for by Dir, read in sequence by lines and items, written in
-/// sequence. The line rule stands here and nowhere else: CR or CR LF ends a line, LF alone does not.
+/// Text files: Dir looks for them, TextInput reads them by lines and items, TextOutput writes them line by
+/// line. The line rule stands here and nowhere else: CR or CR LF ends a line, LF alone does not.
 #include "text/System.h"
 
 #include <memory>
@@ -8,31 +8,32 @@
 #include <string>
 #include <string_view>
 
-/// The last part of pPath when a file of that name is there, else empty. Folders are not found; "*" and "?"
-/// are ordinary characters; a relative path counts from the current folder.
+/// The last part of pPath if such a file exists, else empty. Does not find folders. "*" and "?" are ordinary
+/// characters; a relative path starts at the current folder.
 std::string Dir(const std::string &pPath);
 
-/// A file open for input. It is read block by block, so that only the line that is asked for is in memory.
+/// A file open for input. It reads block by block, so only the current line has to fit into memory.
 class TextInput {
 public:
     explicit TextInput(const std::string &pName) : myFile(pName) {}
 
-    /// No line is longer than this many bytes: 2 GB are no line of any table, but would fill the memory.
+    /// A longer line is a fault. No table has a line of 2 GB, but one in a damaged file would fill the
+    /// memory.
     static constexpr std::size_t mostLineBytes = std::size_t{1} << 31U;
 
-    /// The reason why the file could not be read, mostly the system's; empty as long as it could. From a
-    /// fault on the file reads as if it ended there, so it has to be asked for at the end as well.
+    /// The reason why the file could not be read; empty while there is none. After a fault the file seems to
+    /// end there, so ask again after the last read.
     const std::string &Fault() const { return myFault.empty() ? myFile.Fault() : myFault; }
 
     /// True when the next read would find nothing.
     bool AtEnd();
 
-    /// The next line without its line end; empty at the end of the file. It holds until the next read.
+    /// The next line without its line end; empty at the end of the file. It stays valid until the next read.
     std::string_view LineInput();
 
-    /// The next item of the current line: what stands up to a comma, a blank or the end of the line, blanks
-    /// before it skipped, and what ends it taken too: a comma, or blanks and a comma if one follows them.
-    /// Nothing when the line has no further item. It holds until the next line is read.
+    /// The next item of the current line; null when the line has none left. Skips blanks before it. An item
+    /// ends at a comma, a blank or the end of the line; blanks after it and one comma are skipped too. It
+    /// stays valid until the next line is read.
     std::optional<std::string_view> InputItem();
 
 private:
@@ -43,24 +44,24 @@ private:
 
     os::FileReader myFile;
     std::string myFault;
-    std::string myBuffer; ///< what was read and not yet handed out stands from myAt to myEnd
+    std::string myBuffer; ///< the bytes read but not yet handed out lie from myAt to myEnd
     std::size_t myAt = 0;
     std::size_t myEnd = 0;
     bool myHasMore = true;
 };
 
-/// A file open for output, which loses what was in it. Its lines go to the disk block by block.
+/// A file open for output, whose old content is lost. It writes block by block.
 class TextOutput {
 public:
-    /// pMostBytes: as much room as any line needs, made before the file is touched, so that memory can't run
-    /// out in the middle.
+    /// pMostBytes is the most that any line needs. The room for it is made before the file is touched, so
+    /// memory can't run out halfway.
     TextOutput(const std::string &pName, std::size_t pMostBytes);
 
-    /// Adds pText, of at most pMostBytes, and a line end, CR LF.
+    /// Adds pText, at most pMostBytes long, and a line end, CR LF.
     void PrintLine(std::string_view pText);
 
-    /// The room for the next line, pMostBytes from here on; EndLine adds what was put there, up to pEnd, and
-    /// a line end.
+    /// Room for the next line, pMostBytes long. EndLine adds the line put there, which ends at pEnd, and a
+    /// line end.
     char *BeginLine() { return myEnd; }
     void EndLine(char *pEnd);
 
@@ -77,6 +78,6 @@ private:
     void WriteBlock();
 
     std::unique_ptr<char[]> myBlock;
-    char *myEnd; ///< of what is in the block
+    char *myEnd; ///< the end of the lines in the block
     os::FileWriter myFile;
 };

@@ -20,7 +20,7 @@ void TakeSign(Cursor &pText) {
     }
 }
 
-/// The longest number that pText begins with; empty when it begins with none.
+/// The longest number at the start of pText; empty if there is none.
 std::string_view LeadingNumber(std::string_view pText) {
     Cursor text(pText);
     TakeSign(text);
@@ -41,8 +41,8 @@ std::string_view LeadingNumber(std::string_view pText) {
     return text.PassedSince(0);
 }
 
-/// A number too large for a double or too small: whether it is the one or the other shows in where its first
-/// digit other than 0 stands, corrected by the exponent. The exponent itself may be too long to be read.
+/// The value of a number beyond the range of a double: an infinity or 0. The place of its first digit other
+/// than 0, corrected by the exponent, tells which. The exponent may itself be too long for an integer.
 double BeyondDouble(std::string_view pNumber) {
     const bool negative = pNumber.front() == '-';
     const std::size_t letter = pNumber.find_first_of("eE");

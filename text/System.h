@@ -1,6 +1,6 @@
 #pragma once
-/// The few calls that only the operating system can answer, behind one face for POSIX and Windows
-/// (System_posix.cpp, System_windows.cpp). Paths are UTF-8 and go by NativePath's rule.
+/// The calls of the operating system that the program needs, with one implementation for POSIX and one for
+/// Windows. Paths are UTF-8; NativePath gives the rule for separators.
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -8,19 +8,19 @@
 
 namespace os {
 
-/// pPath as the system is to see it: unchanged when a file or folder of that very name exists; otherwise each
-/// "\" counts as the folder separator.
+/// The path to hand to the system. It is pPath itself if a file or folder of that very name exists; otherwise
+/// each "\" becomes a folder separator.
 std::string NativePath(const std::string &pPath);
 
-/// Whether pPath names something that is there and is no folder and, where the system has such attributes,
-/// neither hidden nor a system file.
+/// Whether pPath names something that exists and is no folder. Where the system has such attributes, hidden
+/// files and system files do not count.
 bool IsFile(const std::string &pPath);
 
 /// Whether pPath names a folder.
 bool IsFolder(const std::string &pPath);
 
-/// A regular file open for reading from its start. Anything else (a pipe, a device, a folder) is a fault, at
-/// once and without waiting for it.
+/// A regular file, open for reading from its start. Anything else (a pipe, a device, a folder) is a fault at
+/// once: the constructor never waits.
 class FileReader {
 public:
     explicit FileReader(const std::string &pPath);
@@ -28,8 +28,8 @@ public:
     FileReader(const FileReader &) = delete;
     FileReader &operator=(const FileReader &) = delete;
 
-    /// Puts the file's next bytes to pRoom, at most pSize. How many they are: 0 at the end, and from a fault
-    /// on.
+    /// Reads at most pSize bytes into pRoom and returns how many it read: 0 at the end of the file, and from
+    /// a fault on.
     std::size_t Read(char *pRoom, std::size_t pSize);
 
     /// The system's reason in words; empty while there is no fault.
@@ -40,9 +40,8 @@ private:
     std::string myFault;
 };
 
-/// A file whose content is replaced. To construct it empties or creates the file; each step's result is
-/// looked at. A pipe or a socket is refused untouched; a device that can't be emptied or flushed is none the
-/// worse for it.
+/// A file whose content is replaced. The constructor empties or creates the file. A pipe or a socket is a
+/// fault and is left alone; that a device can't be emptied or flushed is no fault.
 class FileWriter {
 public:
     explicit FileWriter(const std::string &pPath);
@@ -50,14 +49,15 @@ public:
     FileWriter(const FileWriter &) = delete;
     FileWriter &operator=(const FileWriter &) = delete;
 
-    /// Writes pBytes behind what is there; nothing from a fault on.
+    /// Appends pBytes. Does nothing from a fault on.
     void Write(std::string_view pBytes);
-    /// Flushes to the disk and closes; nothing more can be written.
+    /// Flushes to the disk and closes the file. Nothing more can be written.
     void Close();
 
-    /// The system's reason in words; empty while there is no fault, and after Close when all is on the disk.
+    /// The system's reason in words. Empty while there is no fault; after Close that means that everything is
+    /// on the disk.
     const std::string &Fault() const { return myFault; }
-    /// Whether the file had been created or emptied.
+    /// Whether the constructor got as far as creating or emptying the file.
     bool WasEmptied() const { return myWasEmptied; }
 
 private:
@@ -69,10 +69,10 @@ private:
 /// pCharacter in lower case by the system's rule for Unicode, the same in every locale.
 char32_t LowerCase(char32_t pCharacter);
 
-/// The file that the running program was started from, with links followed; empty when the system won't tell.
+/// The full path of the running program's file, with links followed; empty if the system won't tell.
 std::string ProgramFile();
 
-/// Makes a write beyond a limit of file size fail with a reason, instead of ending the process.
+/// Makes a write beyond the limit of file size fail with a reason. Without this call it ends the process.
 void ReportWriteLimits();
 
 } // namespace os

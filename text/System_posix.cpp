@@ -14,7 +14,7 @@
 
 namespace {
 
-/// A name with a NUL byte would be cut there by the system and mean another file.
+/// The system would cut a name at a NUL byte, and that would name another file.
 bool IsUsable(const std::string &pPath) {
     return !pPath.empty() && pPath.find('\0') == std::string::npos;
 }
@@ -32,7 +32,7 @@ std::string Reason(int pError) {
     return std::strerror(pError);
 }
 
-/// A descriptor of pPath, -1 with errno set when it can't be had. Opening a pipe doesn't wait.
+/// A descriptor of pPath; -1, with errno set, if the system refuses. Opening a pipe doesn't wait.
 int Open(const std::string &pPath, int pFlags) {
     return open(pPath.c_str(), pFlags | O_CLOEXEC | O_NOCTTY | O_NONBLOCK, 0666);
 }
@@ -43,7 +43,7 @@ int Descriptor(std::intptr_t pHandle) {
     return static_cast<int>(pHandle);
 }
 
-/// Gives pHandle back; false with errno set when the system says that what was written is not safe.
+/// Closes pHandle. Returns false, with errno set, if the system could not keep all that was written.
 bool GiveBack(std::intptr_t &pHandle) {
     const std::intptr_t handle = std::exchange(pHandle, noHandle);
     return handle == noHandle || close(Descriptor(handle)) == 0;
@@ -53,7 +53,7 @@ bool IsPipe(const struct stat &pStatus) {
     return S_ISFIFO(pStatus.st_mode) || S_ISSOCK(pStatus.st_mode);
 }
 
-/// Flushes to the disk. What has no disk behind it (a device) says so, and that is no fault.
+/// Flushes to the disk. A device without a disk is no fault.
 bool Flush(int pNumber) {
     return fsync(pNumber) == 0 || errno == EINVAL || errno == EROFS || errno == ENOTSUP;
 }
@@ -130,9 +130,9 @@ FileWriter::FileWriter(const std::string &pPath) : myHandle(noHandle) {
     if (myHandle == noHandle || fstat(Descriptor(myHandle), &status) != 0) {
         myFault = Reason(errno);
     } else if (IsPipe(status)) {
-        myFault = "Not a regular file"; // It took the place of the file in this moment.
+        myFault = "Not a regular file"; // It has replaced the file since the first look.
     } else {
-        const bool hasContent = S_ISREG(status.st_mode); // A device has none.
+        const bool hasContent = S_ISREG(status.st_mode); // A device has no content.
         const bool isEmpty = !hasContent || ftruncate(Descriptor(myHandle), 0) == 0;
         myFault = isEmpty ? "" : Reason(errno);
         myWasEmptied = isEmpty ? hasContent : !wasThere;
@@ -149,7 +149,7 @@ void FileWriter::Write(std::string_view pBytes) {
         if (written > 0) {
             pBytes.remove_prefix(static_cast<std::size_t>(written));
         } else if (written == 0) {
-            myFault = Reason(ENOSPC); // It took nothing; asking on would never end.
+            myFault = Reason(ENOSPC); // The system took nothing, and would take nothing again.
         } else if (errno != EINTR) {
             myFault = Reason(errno);
         }

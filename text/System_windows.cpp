@@ -12,11 +12,11 @@
 
 namespace {
 
-/// One call reads or writes at most this many bytes; the system counts them in 32 bits.
+/// The most bytes that one call reads or writes: the system counts them in 32 bits.
 constexpr std::size_t mostBytesPerCall = std::size_t{1} << 30U;
 
-/// pText for the wide interface; empty when it can't name a file: bytes that are not UTF-8 would be replaced
-/// and a NUL would end the name, and either would mean another file.
+/// pText for the wide interface. Empty when it can't name a file: the system would replace bytes that are not
+/// UTF-8 and end the name at a NUL, and either would name another file.
 std::wstring Wide(const std::string &pText) {
     const bool fits = pText.size() <= static_cast<std::size_t>(std::numeric_limits<int>::max());
     if (pText.empty() || !fits || pText.find('\0') != std::string::npos) {
@@ -38,7 +38,7 @@ std::string Utf8(const wchar_t *pText, std::size_t pLength) {
     return text;
 }
 
-/// The system's words for pError, without the full stop and the line end that it puts behind them.
+/// The system's words for pError, without the full stop and the line end that it adds.
 std::string Reason(DWORD pError) {
     wchar_t words[512];
     constexpr DWORD how = FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS;
@@ -63,7 +63,7 @@ bool HasAny(DWORD pAttributes, DWORD pWanted) {
 
 const std::intptr_t noHandle = reinterpret_cast<std::intptr_t>(INVALID_HANDLE_VALUE);
 
-/// A handle of pPath; noHandle with the last error set when it can't be had.
+/// A handle of pPath; noHandle, with the last error set, if the system refuses.
 std::intptr_t Open(const std::wstring &pPath, DWORD pAccess, DWORD pShare, DWORD pDisposition) {
     return reinterpret_cast<std::intptr_t>(
         CreateFileW(pPath.c_str(), pAccess, pShare, nullptr, pDisposition, FILE_ATTRIBUTE_NORMAL, nullptr));
@@ -73,7 +73,7 @@ HANDLE Native(std::intptr_t pHandle) {
     return reinterpret_cast<HANDLE>(pHandle);
 }
 
-/// Gives pHandle back; false with the last error set when the system says that what was written is not safe.
+/// Closes pHandle. Returns false, with the last error set, if the system could not keep all that was written.
 bool GiveBack(std::intptr_t &pHandle) {
     const std::intptr_t handle = std::exchange(pHandle, noHandle);
     return handle == noHandle || CloseHandle(Native(handle)) != 0;
@@ -83,7 +83,7 @@ DWORD SizeForCall(std::size_t pSize) {
     return static_cast<DWORD>(std::min(pSize, mostBytesPerCall));
 }
 
-/// Flushes to the disk. A file system that has no notion of it says so, and that is no fault.
+/// Flushes to the disk. A file system without that notion is no fault.
 bool Flush(HANDLE pFile) {
     if (FlushFileBuffers(pFile) != 0) {
         return true;
@@ -97,7 +97,7 @@ bool Flush(HANDLE pFile) {
 namespace os {
 
 std::string NativePath(const std::string &pPath) {
-    // Both separators mean the same here, so this names the same file; its callers split at "/" alone.
+    // Both separators mean the same to the system, and the callers split at "/" alone.
     std::string path = pPath;
     std::replace(path.begin(), path.end(), '\\', '/');
     return path;
@@ -157,7 +157,7 @@ FileWriter::FileWriter(const std::string &pPath) : myHandle(noHandle) {
         return;
     }
     const bool wasThere = attributes != INVALID_FILE_ATTRIBUTES;
-    // Not CREATE_ALWAYS: that refuses to empty a hidden file, and would empty before the kind is known.
+    // Not CREATE_ALWAYS: it refuses to empty a hidden file, and it empties before the kind is known.
     myHandle = Open(path, GENERIC_WRITE, FILE_SHARE_READ, OPEN_ALWAYS);
     if (myHandle == noHandle) {
         myFault = LastReason();
@@ -168,7 +168,7 @@ FileWriter::FileWriter(const std::string &pPath) : myHandle(noHandle) {
         myFault = "Not a regular file";
         return;
     }
-    const bool hasContent = kind == FILE_TYPE_DISK; // A device has none.
+    const bool hasContent = kind == FILE_TYPE_DISK; // A device has no content.
     const bool isEmpty = !hasContent || SetEndOfFile(Native(myHandle)) != 0;
     myFault = isEmpty ? "" : LastReason();
     myWasEmptied = isEmpty ? hasContent : !wasThere;
@@ -185,14 +185,14 @@ void FileWriter::Write(std::string_view pBytes) {
             0) {
             myFault = LastReason();
         } else if (written == 0) {
-            myFault = Reason(ERROR_DISK_FULL); // It took nothing; asking on would never end.
+            myFault = Reason(ERROR_DISK_FULL); // The system took nothing, and would take nothing again.
         }
         pBytes.remove_prefix(written);
     }
 }
 
 void FileWriter::Close() {
-    const bool isDevice = !myWasEmptied; // There is nothing of it to flush.
+    const bool isDevice = !myWasEmptied; // A device has nothing to flush.
     if (myFault.empty() && ((!isDevice && !Flush(Native(myHandle))) || !GiveBack(myHandle))) {
         myFault = LastReason();
     }
@@ -200,7 +200,7 @@ void FileWriter::Close() {
 
 char32_t LowerCase(char32_t pCharacter) {
     if (pCharacter == 0 || pCharacter > 0xFFFF) {
-        return pCharacter; // The system's rule knows single UTF-16 units alone.
+        return pCharacter; // The system's rule covers single UTF-16 units only.
     }
     wchar_t text[] = {static_cast<wchar_t>(pCharacter), L'\0'};
     CharLowerW(text);
@@ -214,12 +214,12 @@ std::string ProgramFile() {
         if (length < path.size()) {
             return Utf8(path.data(), length);
         }
-        path.resize(path.size() * 2); // A name that fills all the room was cut.
+        path.resize(path.size() * 2); // The name fills all the room, so it was cut.
     }
 }
 
 void ReportWriteLimits() {
-    // No signal is raised here: a write beyond a limit fails like any other.
+    // This system raises no signal: a write beyond a limit fails like any other.
 }
 
 } // namespace os

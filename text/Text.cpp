@@ -10,7 +10,7 @@ constexpr CodePoint SingleByte(unsigned char pByte, bool pIsValid) {
     return {pByte, 1, pIsValid};
 }
 
-/// How many bytes a character has that begins with pLead; 0 for a byte that begins none.
+/// Length in bytes of a character that begins with pLead; 0 if no character does.
 std::size_t LengthByLead(unsigned char pLead) {
     if (pLead < 0x80) {
         return 1;
@@ -24,7 +24,7 @@ std::size_t LengthByLead(unsigned char pLead) {
     return pLead >= 0xF0 && pLead <= 0xF4 ? 4 : 0;
 }
 
-/// pCodePoint in lower case; a byte that is no character has no case.
+/// pCodePoint in lower case. A stray byte has no case.
 char32_t Folded(const CodePoint &pCodePoint) {
     if (pCodePoint.value < 0x80) {
         const bool isCapital = pCodePoint.value >= U'A' && pCodePoint.value <= U'Z';
@@ -33,15 +33,14 @@ char32_t Folded(const CodePoint &pCodePoint) {
     return pCodePoint.isValid ? os::LowerCase(pCodePoint.value) : pCodePoint.value;
 }
 
-/// Whether two characters are the same but for case. A stray byte is never equal to the character of its
-/// number.
+/// Whether two characters differ in case at most. A stray byte never equals the character of the same number.
 bool SameIgnoringCase(const CodePoint &pOne, const CodePoint &pOther) {
     return pOne.isValid == pOther.isValid && Folded(pOne) == Folded(pOther);
 }
 
 struct Comparison {
-    bool isStartOf;  ///< all of the shorter text was matched
-    std::size_t end; ///< how far the longer one was read
+    bool isStartOf;  ///< the longer text begins with the shorter one
+    std::size_t end; ///< where the match in the longer one ends
 };
 
 Comparison MatchStart(std::string_view pText, std::string_view pStart) {
@@ -145,7 +144,7 @@ std::string WithoutNewLineBreaks(std::string_view pBefore, std::string_view pAft
     if (std::none_of(pAfter.begin(), pAfter.end(), IsLineBreak)) {
         return std::string(pAfter);
     }
-    // What both ends have in common was there before; the edit is what lies between.
+    // The edit lies between the common start and the common end.
     const std::size_t most = std::min(pBefore.size(), pAfter.size());
     std::size_t front = 0;
     while (front < most && pBefore[front] == pAfter[front]) {

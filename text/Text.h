@@ -1,14 +1,14 @@
 #pragma once
-/// Texts in memory: UTF-8 in std::string, in which bytes that are not UTF-8 may stand and survive. Comparison
-/// is by bytes unless a function here says otherwise.
+/// Texts in memory are UTF-8 in std::string. Bytes that are not UTF-8 may occur, and survive. Texts compare
+/// by their bytes unless a function here says otherwise.
 #include <cstddef>
 #include <string>
 #include <string_view>
 
-/// One character of a text, or one byte that is part of no UTF-8 character.
+/// One character of a text, or one byte that belongs to no UTF-8 character.
 struct CodePoint {
-    char32_t value;     ///< the character; the byte itself when not valid
-    std::size_t length; ///< bytes taken, 1 to 4
+    char32_t value;     ///< the character, or the byte itself when it is not valid
+    std::size_t length; ///< in bytes, 1 to 4
     bool isValid;
 };
 
@@ -33,19 +33,18 @@ inline std::string_view Trim(std::string_view pText) {
 /// pText in lower case, character by character, by the system's own rule for Unicode.
 std::string LCase(std::string_view pText);
 
-/// Whether LCase of both is the same text.
+/// Whether LCase gives the same text for both.
 bool EqualIgnoringCase(std::string_view pOne, std::string_view pOther);
 
 /// Whether LCase of pText begins with LCase of pStart.
 bool BeginsWithIgnoringCase(std::string_view pText, std::string_view pStart);
 
-/// Length of pText in UTF-16 units, in which caret places and selections count; a byte that is not UTF-8 is
-/// one unit.
+/// Length of pText in UTF-16 units, which places of the caret count in. A byte that is not UTF-8 is one unit.
 int Utf16Length(std::string_view pText);
 
 /// pText in double quotes for a message: on one line, and cut after 60 bytes.
 std::string Quoted(std::string_view pText);
 
-/// pAfter, the text of a single-line field after an edit of pBefore, with each line break that the edit
-/// brought in (CR, LF or CR LF) made a blank. Line breaks that pBefore had stay.
+/// An edit has changed the text of a single-line field from pBefore to pAfter. Returns pAfter with a blank
+/// for each line break (CR, LF or CR LF) that the edit brought in. Line breaks of pBefore stay.
 std::string WithoutNewLineBreaks(std::string_view pBefore, std::string_view pAfter);

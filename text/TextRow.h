@@ -54,8 +54,8 @@ struct TextRowRoom {
 /// Builds one row, text by text.
 class TextRowBuilder {
 public:
-    /// For at most pMostTexts texts of pMostBytes in all. Texts that lie in pSource are copied faster than
-    /// others.
+    /// Makes room for pMostTexts texts of pMostBytes bytes in all. Texts that lie in pSource are copied
+    /// faster than others.
     TextRowBuilder(TextRowRoom &pRoom, std::size_t pMostTexts, std::size_t pMostBytes,
                    std::string_view pSource = {});
 

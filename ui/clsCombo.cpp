@@ -7,8 +7,8 @@
 
 namespace {
 
-/// The keys whose release completes: the space bar, digits, letters, the numeric keypad and punctuation, but
-/// not those that erase, move the caret or do something else.
+/// Whether the release of the key completes: the space bar, digits, letters, the numeric keypad and
+/// punctuation do; keys that erase, move the caret or act otherwise do not.
 bool TypesText(int pKeyCode) {
     return pKeyCode == keyCode::space || (pKeyCode >= keyCode::digit0 && pKeyCode <= keyCode::keypadDivide) ||
            pKeyCode >= keyCode::firstAboveAscii;
@@ -46,8 +46,8 @@ void clsCombo::LoadFromTxtFile(const std::string &pFn) {
 }
 
 void clsCombo::myCB_KeyUp(int KeyCode, int /*Shift*/) {
-    // Of two keys typed fast, the first release finds both characters there. Completing again at the second
-    // would take the completed part for typed.
+    // When two keys are typed fast, both characters are there at the first release. To complete again at the
+    // second would take the completed part for typed text.
     if (myMode == 2 && TypesText(KeyCode) && myCB->TakeTyped()) {
         AutoComplete(*myCB);
     }
@@ -58,7 +58,7 @@ void clsCombo::AutoComplete(ComboBox &pCombo) {
     if (typed == 0) {
         return;
     }
-    // With no entry found the text stays as typed, the caret at its end and nothing selected.
+    // If no entry is found, the text stays as typed, with the caret at its end and nothing selected.
     pCombo.ListIndex(pCombo.FindString(pCombo.Text()));
     pCombo.SelStart(typed);
     pCombo.SelLength(Utf16Length(pCombo.Text()) - typed);

@@ -1,7 +1,6 @@
 #pragma once
-/// Makes a combo box a field for data entry: fills its list from a text file, refuses to let the focus leave
-/// a text that isn't listed, and completes what is typed. It serves the box as long as it lives; the form
-/// owns the box.
+/// Makes a combo box a field for data entry: fills its list from a text file, keeps the focus while the text
+/// isn't listed, and completes typed text. It serves the box during its own lifetime; the form owns the box.
 #include <cstdint>
 #include <string>
 
@@ -14,17 +13,18 @@ public:
     clsCombo(const clsCombo &) = delete;
     clsCombo &operator=(const clsCombo &) = delete;
 
-    /// Connects this to pCB's events.
+    /// Serves pCB from now on.
     void cb(ComboBox &pCB);
 
-    /// 0 or below: any text; 1: the text has to be an entry of the list, unless the list is empty; 2: that,
-    /// and completion; 3 and above: as 1.
+    /// 0 or below: any text. 1: the text must be an entry of the list, unless the list is empty. 2: as 1,
+    /// with completion. 3 and above: as 1.
     void Mode(std::int16_t pMode) { myMode = pMode; }
 
     /// Empties the list.
     void Clear();
 
-    /// Adds each line of the file pFn, unchanged, to the end of the list; nothing when Dir doesn't find it.
+    /// Adds each line of the file pFn, unchanged, to the end of the list. Does nothing if Dir doesn't find
+    /// the file.
     void LoadFromTxtFile(const std::string &pFn);
     /// The system's reason why the last file was there but could not be read. Empty when it could.
     const std::string &Fault() const { return myFault; }

@@ -1,6 +1,6 @@
 #pragma once
-/// The layout manager's record of one control: where it stood when it was registered, in twips, and which
-/// share of the form's growth it takes. It never changes afterwards.
+/// The layout manager's record of one control: its place at registration, in twips, and its shares of the
+/// form's growth. A record never changes.
 #include <cstdint>
 
 class SizedControl;

@@ -87,7 +87,7 @@ void clsLayout::EnforceMinimum() {
 }
 
 void clsLayout::RedrawLayout() {
-    // Writing the form's size raises its Resize, whose handler comes back here in the middle of the pass.
+    // To write the form's size raises Resize, and its handler calls this function in the middle of the pass.
     if (inRedraw || myFrm == nullptr) {
         return;
     }

@@ -1,7 +1,8 @@
 #pragma once
-/// Keeps the controls of one form in place when the form changes size, each by the option string in its Tag:
-/// blank-separated words "X=", "Y=", "W=", "H=" with a whole number or a fraction of two whole numbers, the
-/// share of the form's growth by which the control moves or stretches. It knows nothing of the application.
+/// Places the controls of one form anew when the form changes size, each by the option string in its Tag.
+/// That string holds the keys "X=", "Y=", "W=" and "H=", separated by blanks, each with the share of the
+/// form's growth by which the control moves or stretches: a whole number or a fraction of two. Knows nothing
+/// of the application.
 #include "ui/clsControl.h"
 
 #include <cstdint>
@@ -15,24 +16,24 @@ class Form;
 
 class clsLayout {
 public:
-    /// Least outer width of the form in twips, which growth is measured from too. Rounded to a whole number,
-    /// a half to the even one.
+    /// Least outer width of the form in twips, and the width that growth starts from. Rounded to a whole
+    /// number, an exact half to the even one.
     void MinWidth(float Twips);
     float MinWidth() const { return static_cast<float>(myMinWidth); }
     /// The same for the height.
     void MinHeight(float Twips);
     float MinHeight() const { return static_cast<float>(myMinHeight); }
 
-    /// Takes frm's present size as least size and origin of growth, and registers all its controls by their
-    /// Tag, but for those of the class "Toolbar". Places nothing.
+    /// Takes the present size of frm as its least size, and registers all its controls by their Tag, except
+    /// those of the class "Toolbar". Places nothing.
     void SetLayout(Form &frm);
 
-    /// Puts a form in its normal state back to the least size, and places all registered controls anew from
-    /// their records. Does nothing before SetLayout, and nothing while a pass is running.
+    /// Gives the form its least size back if it is smaller and in its normal state, and places all registered
+    /// controls from their records. Does nothing before SetLayout or while another pass is running.
     void RedrawLayout();
 
-    /// Registers one control with the option string pOpts. Leaves out, quietly, a control that has no place,
-    /// and one whose option string holds a number out of 16 bits or a denominator of 0.
+    /// Registers one control with the option string pOpts. Quietly leaves out a control without a place, and
+    /// one whose option string holds a number beyond 16 bits or a denominator of 0.
     void AddControl(Control &ctrl, const std::string &pOpts);
 
 private:

@@ -10,7 +10,7 @@ namespace {
 
 constexpr double lastColumnGapTwips = 10;
 
-/// A count of the control, which counts further than this class does.
+/// The control counts in int, this class in 16 bits.
 std::int16_t Count16(int pCount) {
     return static_cast<std::int16_t>(std::min(pCount, 32767));
 }
@@ -88,7 +88,7 @@ void clsListViewRpt::Data(std::int16_t pRow, std::int16_t pCol, const std::strin
     }
 }
 
-/// Lets the selected row and the one at place pIndex change places.
+/// Swaps the selected row with the one at place pIndex, and selects that place.
 void clsListViewRpt::MoveSelectedTo(int pIndex) {
     ListItem &selected = *myLV->SelectedItem();
     ListItem &other = myLV->ListItems(pIndex);

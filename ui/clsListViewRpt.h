@@ -1,7 +1,7 @@
 #pragma once
-/// A list control in report view as a grid of text: rows and columns from 0, one selected row, rows moved up
-/// and down, columns whose widths are shares of the control's. The control is the store; a condition that a
-/// caller breaks (a cell that isn't there) reads as empty or does nothing.
+/// A list control in report view as a grid of text. Rows and columns count from 0, at most one row is
+/// selected, and column widths are shares of the control's width. The control holds the rows. A cell that
+/// isn't there reads empty and ignores writes.
 #include "text/TextRow.h"
 
 #include <cstdint>
@@ -13,17 +13,18 @@ class ListView;
 
 class clsListViewRpt {
 public:
-    /// Keeps the control and puts it in report view.
+    /// The control that the others operate on. To set it puts it in report view.
     void LV(ListView &pLV);
     ListView &LV() const { return *myLV; }
 
-    /// Appends a column for each title and gives all columns the same share, 100 / titles, of the width.
+    /// Appends a column for each title, and gives all columns the same share of the width, 100 percent /
+    /// titles.
     void Headers(const std::vector<std::string> &pHeaders);
     std::vector<std::string> Headers() const;
 
     /// Replaces all shares, in percent.
     void ColumnWidths(const std::vector<std::int16_t> &pWidths) { myWidths = pWidths; }
-    /// Share of column x (from 0), in percent.
+    /// Share of column x (from 0), in percent of the control's width.
     void ColumnWidth(std::int16_t x, std::int16_t pWidth);
 
     std::int16_t Rows() const;
@@ -37,21 +38,21 @@ public:
     std::string Data(std::int16_t pRow, std::int16_t pCol) const;
     void Data(std::int16_t pRow, std::int16_t pCol, const std::string &pText);
 
-    /// Moves the selected row one place; it stays selected. No effect at the list's end.
+    /// Moves the selected row one place, and keeps it selected. No effect at the end of the list.
     void MoveUp();
     void MoveDown();
 
     /// Removes all rows. Columns and shares stay.
     void Clear();
-    /// Appends a row of the texts pCells, column c at place c + 1; those that are missing are empty.
+    /// Appends a row, column c being text c + 1 of pCells. Missing texts are empty.
     void AddRow(TextRow pCells = {});
-    /// All texts of row pRow at once, column c at place c + 1.
+    /// All cells of row pRow at once, column c being text c + 1.
     TextRow Row(std::int16_t pRow) const;
     void Row(std::int16_t pRow, TextRow pCells);
     /// Removes the selected row, if there is one.
     void Del();
 
-    /// Gives every column its share of the control's present width, the last one 10 twips less.
+    /// Gives each column its share of the control's present width, and the last one 10 twips less.
     void Resize();
 
 private:
