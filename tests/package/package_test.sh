@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# package_test.sh SOURCE_FOLDER SCRATCH_FOLDER: packs the sources, makes the Debian package out of that very
-# archive, asks the system's own checkers about it, unpacks it into an empty root, and starts the program
-# there. A checker that is missing fails the test; nothing is skipped.
+# tools/screen.py package_test.sh SOURCE_FOLDER SCRATCH_FOLDER: packs the sources, makes the Debian package out
+# of that very archive, asks the system's own checkers about it, unpacks it into an empty root, and starts the
+# program there. A checker that is missing fails the test; nothing is skipped.
 set -euo pipefail
 source=$(cd "$1" && pwd)
 scratch=$2
@@ -27,14 +27,6 @@ done
 rm -rf "$scratch"
 mkdir -p "$scratch"
 cd "$scratch"
-started=()
-clean_up() {
-    for pid in "${started[@]}"; do
-        kill "$pid" 2>/dev/null || true
-        wait "$pid" 2>/dev/null || true
-    done
-}
-trap clean_up EXIT
 
 # --- the source archive, and the package built from it, as someone who has nothing else would ---
 
@@ -92,30 +84,17 @@ check "messages in the help page" "$source/tests/package/help_messages.py" "$sou
 
 step "program"
 mkdir -m 700 home
-mkfifo display.fifo
-Xvfb -displayfd 3 -screen 0 1024x768x24 -nolisten tcp -noreset 3>display.fifo 2>xvfb.log &
-started+=($!)
-read -r display <display.fifo
 # Without a message bus of its own Qt would start one, which leaves files in the home folder.
-clean=(env -i PATH=/usr/bin:/bin LC_ALL=C.UTF-8 HOME="$scratch/home" DISPLAY=":$display" QT_QPA_PLATFORM=xcb
+clean=(env -i PATH=/usr/bin:/bin LC_ALL=C.UTF-8 HOME="$scratch/home" DISPLAY="$DISPLAY" QT_QPA_PLATFORM=xcb
     DBUS_SESSION_BUS_ADDRESS=disabled:)
-"${clean[@]}" HOME="$scratch" openbox >openbox.log 2>&1 &
-started+=($!)
-# A window shown in the very moment in which the window manager takes over may get lost.
-for ((try = 0; try < 100; ++try)); do
-    if "${clean[@]}" xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'; then
-        break
-    fi
-    sleep 0.1
-done
 
 # The title is the word's only once the specification has been read and the form built from it.
 title="Time zones"
 (cd home && exec "${clean[@]}" "$root/usr/bin/NorvoEditDat" /t "$title" "$program_folder/timezones.dat" \
     2>../program.log) &
 pid=$!
-started+=("$pid")
-# A search of its own fails when any window goes away under it, as those of a starting window manager do.
+trap 'kill "$pid" || true; wait' EXIT
+# A search fails when a window goes away under it.
 for ((try = 0; try < 60; ++try)); do
     windows=$("${clean[@]}" xdotool search --onlyvisible --all --pid "$pid" --name '.' 2>/dev/null) && break
     sleep 0.5

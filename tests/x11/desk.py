@@ -3,6 +3,7 @@ editor on it, driven by real keys and mouse clicks from outside the process and 
 would. A script that uses it starts with `desk.main(session)`."""
 
 import os
+import pathlib
 import shutil
 import subprocess
 import sys
@@ -10,6 +11,10 @@ import tempfile
 import time
 import traceback
 import warnings
+
+sys.path.append(str(pathlib.Path(__file__).resolve().parents[2]))
+
+from tools.screen import Screen
 
 warnings.simplefilter("ignore", DeprecationWarning)  # the names that Debian 12's bindings still need
 
@@ -39,20 +44,7 @@ class Desk:
         self.folder = tempfile.mkdtemp(prefix="norvo-session-")
         self.children = []
         self._opener()
-        read_end, write_end = os.pipe()
-        # Without -noreset the server would start anew whenever its only client, a poll of ours, goes.
-        self._start("Xvfb", "-displayfd", str(write_end), "-screen", "0", "1280x900x24", "-nolisten", "tcp", "-noreset",
-                    pass_fds=[write_end])
-        os.close(write_end)
-        with os.fdopen(read_end) as pipe:
-            os.environ["DISPLAY"] = ":" + pipe.readline().strip()
-        self._start("openbox", "--sm-disable", "--config-file", self._window_manager_settings())
-        until(lambda: "window id" in run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"), "a window manager")
-
-    def _start(self, *words, **options):
-        child = subprocess.Popen(words, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, **options)
-        self.children.append(child)
-        return child
+        self.screen = Screen(os.environ)
 
     def _opener(self):
         # Stands in for the desktop's own, which would start a browser that outlives the session.
@@ -72,14 +64,6 @@ class Desk:
         except FileNotFoundError:
             return []
 
-    def _window_manager_settings(self):
-        # Its own settings bind keys away from the editor; all it is to know is how a window is closed.
-        path = os.path.join(self.folder, "openbox.xml")
-        with open(path, "w", encoding="utf-8") as file:
-            file.write('<openbox_config xmlns="http://openbox.org/3.4/rc"><keyboard><keybind key="A-F4">'
-                       '<action name="Close"/></keybind></keyboard></openbox_config>')
-        return path
-
     def start(self, *words, **environment):
         """Starts the editor on words."""
         log = open(os.path.join(self.folder, "stderr"), "ab")
@@ -96,6 +80,7 @@ class Desk:
             if child.poll() is None:
                 child.terminate()
             child.wait()
+        self.screen.close()
         shutil.rmtree(self.folder, ignore_errors=True)
 
     def complaints(self):

@@ -1,0 +1,98 @@
+#!/usr/bin/env python3
+"""A screen of its own: an X server without a monitor, and a window manager.
+
+    tools/screen.py COMMAND [WORD...]     runs COMMAND on such a screen, and exits with its status
+
+Needs Xvfb, xprop and the window manager."""
+
+import os
+import shutil
+import signal
+import subprocess
+import sys
+import tempfile
+import time
+
+TIMEOUT = 30  # seconds
+WIDTH, HEIGHT = 1280, 900
+
+# By default openbox binds keys that programs want. This binds only the one that closes a window. The font is for
+# the pictures in the help page.
+OPENBOX_SETTINGS = """<openbox_config xmlns="http://openbox.org/3.4/rc">
+<theme><font place="ActiveWindow"><name>sans</name><size>8</size><weight>bold</weight></font></theme>
+<keyboard><keybind key="A-F4"><action name="Close"/></keybind></keyboard>
+</openbox_config>
+"""
+
+
+class Screen:
+    """Sets DISPLAY in environment, and runs the window manager in a copy of it with an empty home."""
+
+    def __init__(self, environment, manager="openbox"):
+        self.folder = tempfile.mkdtemp(prefix="norvo-screen-")
+        self.children = []
+        try:
+            self._start_server(environment)
+            self._start_manager(environment, manager)
+        except BaseException:
+            self.close()
+            raise
+
+    def __enter__(self):
+        return self
+
+    def __exit__(self, *_):
+        self.close()
+
+    def close(self):
+        for child in reversed(self.children):
+            child.terminate()
+            child.wait()
+        shutil.rmtree(self.folder, ignore_errors=True)
+
+    def _start(self, words, **options):
+        self.children.append(subprocess.Popen(words, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
+                                              stderr=subprocess.DEVNULL, **options))
+
+    def _start_server(self, environment):
+        read_end, write_end = os.pipe()
+        # Without -noreset the server starts anew whenever its last client goes.
+        self._start(["Xvfb", "-displayfd", str(write_end), "-screen", "0", "%dx%dx24" % (WIDTH, HEIGHT),
+                     "-nolisten", "tcp", "-noreset"], pass_fds=[write_end])
+        os.close(write_end)
+        with os.fdopen(read_end) as pipe:
+            number = pipe.readline().strip()
+        if not number:
+            raise RuntimeError("Xvfb has not started")
+        environment["DISPLAY"] = ":" + number
+
+    def _start_manager(self, environment, manager):
+        words = [manager]
+        if manager == "openbox":
+            settings = os.path.join(self.folder, "openbox.xml")
+            with open(settings, "w", encoding="utf-8") as file:
+                file.write(OPENBOX_SETTINGS)
+            words += ["--sm-disable", "--config-file", settings]
+        own = {name: value for name, value in environment.items() if not name.startswith("XDG_")}
+        own["HOME"] = self.folder
+        self._start(words, env=own, cwd=self.folder)
+        # A window shown while the window manager takes over may get lost.
+        deadline = time.monotonic() + TIMEOUT
+        check = ["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"]
+        while b"window id" not in subprocess.run(check, env=environment, capture_output=True).stdout:
+            if time.monotonic() > deadline or self.children[-1].poll() is not None:
+                raise RuntimeError(manager + " has not started")
+            time.sleep(0.02)
+
+
+def main():
+    if len(sys.argv) < 2:
+        sys.exit(__doc__)
+    signal.signal(signal.SIGTERM, lambda *_: sys.exit(128 + signal.SIGTERM))
+    with Screen(os.environ):
+        status = subprocess.call(sys.argv[1:])
+    sys.exit(status if status >= 0 else 128 - status)
+
+
+if __name__ == "__main__":
+    main()
