@@ -1,11 +1,12 @@
 """A screen of its own to measure windows on: an X server, a window manager, and programs whose window is watched
 from outside. What a program paints is told by the server as damage to its window, so that neither its timers nor
-the window manager's decorations are mistaken for it. Needs Xvfb, openbox and Debian's python3-xlib."""
+the window manager's decorations are mistaken for it. Needs Debian's python3-xlib and what tools/screen.py needs."""
 
 import os
 import select
 import shutil
 import subprocess
+import sys
 import tempfile
 import time
 
@@ -13,11 +14,15 @@ from Xlib import X, XK, display
 from Xlib.ext import damage
 from Xlib.protocol import event
 
+sys.path.append(os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", ".."))
+
+import tools.screen
+from tools.screen import HEIGHT, WIDTH
+
 TIMEOUT = 60  # seconds, for anything to be seen at all
 QUIET_AT_START = 0.25  # seconds without damage after which a picture counts as the final one
 QUIET = 0.12
 IDLE = 0.003  # seconds of the processor's that a program may take in that time and still count as done
-WIDTH, HEIGHT = 1280, 900
 
 
 class NotSeen(Exception):
@@ -31,20 +36,12 @@ class Screen:
         self.damaged = {}  # window: when its last damage was heard of
         self.created = set()  # the programs' windows since the last forget()
         self._environment()
-        read_end, write_end = os.pipe()
-        # Without -noreset the server would start anew whenever its last client goes.
-        self.run("Xvfb", "-displayfd", str(write_end), "-screen", "0", "%dx%dx24" % (WIDTH, HEIGHT),
-                 "-nolisten", "tcp", "-noreset", pass_fds=[write_end])
-        os.close(write_end)
-        with os.fdopen(read_end) as pipe:
-            self.environment["DISPLAY"] = ":" + pipe.readline().strip()
+        self.server = tools.screen.Screen(self.environment)
         self.display = display.Display(self.environment["DISPLAY"])
         self.display.set_error_handler(lambda *_: None)  # Windows come and go; what's missing is noticed.
         self.display.damage_query_version()
         self.root = self.display.screen().root
         self.root.change_attributes(event_mask=X.SubstructureNotifyMask)
-        self.run("openbox", "--sm-disable", "--config-file", self._settings())
-        self.until(lambda: self._property(self.root, "_NET_SUPPORTING_WM_CHECK"), "a window manager")
         self.manager = self._owner(self._property(self.root, "_NET_SUPPORTING_WM_CHECK"))
 
     def _environment(self):
@@ -52,13 +49,6 @@ class Screen:
         kept = {name: value for name, value in os.environ.items() if not name.startswith(("QT_", "XDG_"))}
         self.environment = dict(kept, HOME=self.folder, XDG_RUNTIME_DIR=self.folder, QT_QPA_PLATFORM="xcb",
                                 DBUS_SESSION_BUS_ADDRESS="disabled:")
-
-    def _settings(self):
-        # Its own would bind keys away from the programs.
-        path = os.path.join(self.folder, "openbox.xml")
-        with open(path, "w", encoding="utf-8") as file:
-            file.write('<openbox_config xmlns="http://openbox.org/3.4/rc"></openbox_config>')
-        return path
 
     def run(self, *words, **options):
         child = subprocess.Popen(words, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
@@ -74,6 +64,7 @@ class Screen:
     def close(self):
         for child in reversed(list(self.children)):
             self.end(child)
+        self.server.close()
         shutil.rmtree(self.folder, ignore_errors=True)
 
     def _property(self, window, name):
