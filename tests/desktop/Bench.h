@@ -14,29 +14,27 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTableView>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <string>
 
 class Bench : public testing::Test {
 protected:
     Bench();
+    ~Bench() override { delete window; } // It must go before what it shows.
 
     /// Brings the window up to date after the test has changed the form.
     void Sync() {
         desktop.Handle([] {});
     }
 
-    /// A key pressed and let go; what a key held down gives is a press and a release too, marked as a repeat.
+    /// A key pressed and let go, with the letter that it types. A key held down gives presses and releases
+    /// too, marked as repeats.
     void Key(int pKey, Qt::KeyboardModifiers pModifiers = {}, bool pIsAutoRepeat = false);
-    /// A press or a release of the left button.
-    void Mouse(QEvent::Type pType, const QWidget &pWidget, QPoint pAt, Qt::KeyboardModifiers pModifiers = {});
-    void Click(const QWidget &pWidget, QPoint pAt, Qt::KeyboardModifiers pModifiers = {});
-
-    /// Lets events run until pIsDone, or for two seconds.
-    static bool Until(const std::function<bool()> &pIsDone);
+    void Click(const QWidget &pWidget, QPoint pAt, Qt::KeyboardModifiers pModifiers = {},
+               Qt::MouseButton pButton = Qt::LeftButton);
 
     QtDesktop desktop;
     Runtime runtime{desktop, AppRecord{}, ""};

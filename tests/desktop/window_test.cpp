@@ -1,11 +1,11 @@
 // The list, the buttons and the window itself on the real desktop, and the boxes over them.
+#include "desktop/ContrastStyle.h"
 #include "tests/desktop/Bench.h"
 #include "tests/support/TemporaryFolder.h"
 
 #include <QFileDialog>
 #include <QHeaderView>
 #include <QMessageBox>
-#include <QMouseEvent>
 #include <QScrollBar>
 #include <QTimer>
 #include <QWindow>
@@ -36,33 +36,35 @@ TEST_F(Records, arePickedByTheMouseWhateverElseIsHeld) {
     EXPECT_EQ(acts, "2 2 3 ") << "nothing for the empty space below and beside the rows";
     EXPECT_EQ(Selected(), 3);
 
-    Mouse(QEvent::MouseButtonPress, area, Row(1));
-    QMouseEvent drag(QEvent::MouseMove, Row(3), area.mapToGlobal(Row(3)), Qt::NoButton, Qt::LeftButton, {});
-    QApplication::sendEvent(table->viewport(), &drag);
-    Mouse(QEvent::MouseButtonRelease, area, Row(3));
+    QWindow *handle = window->windowHandle();
+    QTest::mousePress(handle, Qt::LeftButton, {}, area.mapTo(window, Row(1)));
+    QTest::mouseMove(handle, area.mapTo(window, Row(3)));
+    QTest::mouseRelease(handle, Qt::LeftButton, {}, area.mapTo(window, Row(3)));
+    Click(area, Row(3), {}, Qt::RightButton);
     EXPECT_EQ(acts, "2 2 3 1 ");
-    EXPECT_EQ(Selected(), 1) << "a drag moves nothing";
+    EXPECT_EQ(Selected(), 1) << "neither a drag nor the other button picks";
 }
 
 TEST_F(Records, arePickedByTheKeysAndByAssistiveTechnology) {
     table->setFocus();
-    Key(Qt::Key_Down);
-    EXPECT_EQ(acts, "1 ") << "the first arrow picks the current row";
-    for (const int key : {Qt::Key_Down, Qt::Key_Return, Qt::Key_End, Qt::Key_Down, Qt::Key_Home,
+    for (const int key : {Qt::Key_Down, Qt::Key_Up}) {
+        list.SelectedIndex(2);
+        list.SelectedIndex(0);
+        Key(key);
+    }
+    for (const int key : {Qt::Key_Up, Qt::Key_Down, Qt::Key_Return, Qt::Key_End, Qt::Key_Down, Qt::Key_Home,
                           Qt::Key_PageDown, Qt::Key_Left, Qt::Key_T, Qt::Key_Space}) {
         Key(key, Qt::ControlModifier);
     }
-    EXPECT_EQ(acts, "1 2 2 3 3 1 3 ");
-    acts.clear();
-
     table->selectRow(1);
-    EXPECT_TRUE(Until([&] { return acts == "2 "; })) << acts;
+    const std::string wanted = "2 2 1 2 2 3 3 1 3 2 "; // The first arrow picks the current row.
+    EXPECT_TRUE(QTest::qWaitFor([&] { return acts == wanted; })) << acts;
     table->clearSelection();
-    EXPECT_TRUE(Until([&] { return Selected() == 2; })) << "only a pick changes the selection";
-    EXPECT_EQ(acts, "2 ");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Selected() == 2; })) << "only a pick changes the selection";
+    EXPECT_EQ(acts, wanted);
 }
 
-TEST_F(Records, stayWhereTheyAreOnTheScreenWhenOthersChange) {
+TEST_F(Records, scrollOnlyToTheOneThatTheUserPicksOrMoves) {
     for (int row = 0; row < 100; ++row) {
         list.ListItems.Add({}).Text("more");
     }
@@ -72,8 +74,19 @@ TEST_F(Records, stayWhereTheyAreOnTheScreenWhenOthersChange) {
     table->verticalScrollBar()->setValue(58);
     list.ListItems.Add({}).Text("last");
     Sync();
-    EXPECT_EQ(table->verticalScrollBar()->value(), 58);
+    EXPECT_EQ(table->verticalScrollBar()->value(), 58) << "nor does a change of other rows";
     EXPECT_EQ(Selected(), 60);
+
+    const auto isInView = [this](int pRow) {
+        return table->viewport()->rect().contains(table->visualRect(table->model()->index(pRow - 1, 0)));
+    };
+    list.ListItems(5).Text("moved up");
+    list.SelectedIndex(5);
+    Sync();
+    EXPECT_TRUE(isInView(5));
+    table->setFocus();
+    Key(Qt::Key_Up);
+    EXPECT_TRUE(isInView(4));
 }
 
 TEST_F(Records, keepEachTextInItsCell) {
@@ -98,12 +111,17 @@ TEST_F(Records, keepEachTextInItsCell) {
 
 using Window = Bench;
 
-TEST_F(Window, givesTheFocusOfADisabledButtonToTheList) {
-    cmdAdd.Click.Connect([this] { cmdAdd.Enabled(false); });
-    addButton->setFocus();
-    Key(Qt::Key_Space);
-    EXPECT_FALSE(addButton->isEnabled());
-    EXPECT_TRUE(table->hasFocus());
+TEST_F(Window, outlinesItsPartsOnBlack) {
+    ContrastStyle style("fusion");
+    for (QWidget *part :
+         std::initializer_list<QWidget *>{addButton, nameEdit, box, table, table->horizontalHeader()}) {
+        part->setStyle(&style);
+        part->setPalette(QPalette(Qt::black, Qt::black));
+        part->resize(90, 30);
+        const auto outline = part->hasFocus() ? QPalette::Highlight : QPalette::WindowText;
+        EXPECT_EQ(part->grab().toImage().pixelColor(0, 15), part->palette().color(outline))
+            << part->metaObject()->className();
+    }
 }
 
 TEST_F(Window, snapsBackToItsMinimumEachTime) {
@@ -114,7 +132,7 @@ TEST_F(Window, snapsBackToItsMinimumEachTime) {
     EXPECT_EQ(window->minimumSize(), QSize(0, 0)) << "nothing limits the drag beforehand";
     for (int drag = 0; drag < 2; ++drag) {
         window->resize(300, 120);
-        EXPECT_TRUE(Until([&] { return window->size() == atStart; })) << drag;
+        EXPECT_TRUE(QTest::qWaitFor([&] { return window->size() == atStart; })) << drag;
         EXPECT_EQ(form.ClientWidth(), 6000);
     }
 }
@@ -130,7 +148,7 @@ TEST_F(Window, doesNotFightAWindowSystemThatInsists) {
         }
     });
     window->resize(own);
-    EXPECT_FALSE(Until([&] { return asked > 3; })) << "asked again and again";
+    EXPECT_FALSE(QTest::qWaitFor([&] { return asked > 2; }, 1000)) << "asked again and again";
     EXPECT_GE(asked, 1);
     EXPECT_EQ(window->size(), own);
 }
@@ -142,17 +160,13 @@ protected:
         const auto act = [pAct] { pAct(dynamic_cast<Waiting &>(*QApplication::activeModalWidget())); };
         QTimer::singleShot(0, window, act);
     }
-    static void Send(QWidget &pWidget, Qt::Key pKey) {
-        QKeyEvent press(QEvent::KeyPress, pKey, {});
-        QApplication::sendEvent(&pWidget, &press);
-    }
 };
 
 TEST_F(Boxes, takeEsc) {
     for (const auto &[buttons, answer] : {std::pair{MessageButtons::OkAndCancel, MessageAnswer::Cancel},
                                           {MessageButtons::Ok, MessageAnswer::Ok},
                                           {MessageButtons::CriticalStop, MessageAnswer::Ok}}) {
-        Meanwhile<QMessageBox>([](QMessageBox &pBox) { Send(pBox, Qt::Key_Escape); });
+        Meanwhile<QMessageBox>([](QMessageBox &pBox) { QTest::keyClick(&pBox, Qt::Key_Escape); });
         EXPECT_EQ(desktop.ShowMessage({"Are you sure?", buttons, "Quit"}), answer)
             << static_cast<int>(buttons);
     }
@@ -180,25 +194,26 @@ TEST_F(Boxes, letNothingThroughAndShowWhatTheHandlerHasDoneSoFar) {
 TEST_F(Boxes, giveTheNameThatStandsInTheField) {
     const TemporaryFolder folder;
     folder.Write("there.dat", "");
-    const auto ask = [&](bool pIsSave, const char *pTyped) {
+    folder.Write("sub/there.dat", "");
+    const auto ask = [&](bool pIsSave, const std::vector<const char *> &pTyped) {
         Meanwhile<QFileDialog>([pTyped](QFileDialog &pDialog) {
             auto *edit = pDialog.findChild<QLineEdit *>("fileNameEdit");
-            EXPECT_TRUE(Until([&] { return edit->hasFocus(); }));
-            if (pTyped == nullptr) {
-                pDialog.reject();
-                return;
+            EXPECT_TRUE(QTest::qWaitFor([&] { return edit->hasFocus(); }));
+            for (const char *typed : pTyped) {
+                edit->insert(typed); // over the preset name, which is selected
+                QTest::keyClick(&pDialog, Qt::Key_Return);
             }
-            edit->insert(pTyped); // over the preset name, which is selected
-            Send(pDialog, Qt::Key_Return);
+            pDialog.close();
         });
         const FileDialogRequest request{pIsSave, "Data (*.dat)", "*.dat", folder.Path(), "there.dat"};
         return desktop.ShowFileDialog(form, request).value_or("nothing");
     };
-    EXPECT_EQ(ask(true, nullptr), "nothing") << "a preset name isn't a chosen one";
-    EXPECT_EQ(ask(true, "there.dat"), folder.File("there.dat")) << "nothing is asked before it is replaced";
-    EXPECT_EQ(ask(true, "plain"), folder.File("plain")) << "no suffix is added";
-    EXPECT_EQ(ask(false, "new.dat"), folder.File("new.dat")) << "a name that isn't there can be opened";
-    EXPECT_EQ(ask(true, "a\"b\"c.dat"), folder.File("a\"b\"c.dat")) << "quotes are part of the name";
+    EXPECT_EQ(ask(true, {}), "nothing") << "a preset name isn't a chosen one";
+    EXPECT_EQ(ask(true, {"there.dat"}), folder.File("there.dat")) << "nothing is asked before it is replaced";
+    EXPECT_EQ(ask(true, {"plain"}), folder.File("plain")) << "no suffix is added";
+    EXPECT_EQ(ask(false, {"new.dat"}), folder.File("new.dat")) << "a name that isn't there can be opened";
+    EXPECT_EQ(ask(true, {"a\"b\"c.dat"}), folder.File("a\"b\"c.dat")) << "quotes are part of the name";
+    EXPECT_EQ(ask(true, {"sub", "in.dat"}), folder.File("sub/in.dat")) << "a folder's name leads into it";
 }
 
 } // namespace
