@@ -1,15 +1,22 @@
 #pragma once
-/// A desktop that shows nothing. A message means that what is measured has gone wrong, so it ends the run.
+/// A desktop without a screen, for benchmarks and fuzzers. It shows nothing and dismisses every dialog.
 #include "platform/Desktop.h"
 
-#include <cstdio>
-#include <cstdlib>
+#include <stdexcept>
 
 class NoDesktop : public Desktop {
 public:
+    /// Thrown when the program ends. what() is the last message that the user was shown.
+    struct ProgramEnded : std::runtime_error {
+        using std::runtime_error::runtime_error;
+    };
+
+    /// The last message; empty as long as there was none.
+    const std::string &LastMessage() const { return myMessage; }
+
     MessageAnswer ShowMessage(const Message &pMessage) override {
-        std::fprintf(stderr, "Unexpected message: %s\n", pMessage.prompt.c_str());
-        std::abort();
+        myMessage = pMessage.prompt;
+        return MessageAnswer::Ok;
     }
     std::optional<std::string> ShowFileDialog(const Form & /*pForm*/,
                                               const FileDialogRequest & /*pRequest*/) override {
@@ -18,8 +25,8 @@ public:
     void ShowForm(Form & /*pForm*/) override {}
     void CloseForm(Form & /*pForm*/) override {}
     void OpenTarget(const std::string & /*pTarget*/) override {}
-    [[noreturn]] void EndProcess(int pStatus) override {
-        std::fputs("Unexpected end of the program\n", stderr);
-        std::exit(pStatus);
-    }
+    [[noreturn]] void EndProcess(int /*pStatus*/) override { throw ProgramEnded(myMessage); }
+
+private:
+    std::string myMessage;
 };

@@ -1,24 +1,17 @@
 #include "fuzz/FuzzSupport.h"
 
-#include <array>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
-#include <stdexcept>
+#include <fstream>
+#include <iterator>
 
 #include <sys/mman.h>
-#include <unistd.h>
 
-std::string_view Text(const std::uint8_t *pBytes, std::size_t pSize) {
-    return {reinterpret_cast<const char *>(pBytes), pSize};
-}
-
-std::vector<std::string> Texts(const TextRow &pRow) {
-    std::vector<std::string> texts;
-    for (int place = 1; place <= pRow.Count(); ++place) {
-        texts.emplace_back(pRow(place));
-    }
-    return texts;
+/// The fuzzer and the replay of the corpus call the target here.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *pBytes, std::size_t pSize) {
+    RequireLaws({reinterpret_cast<const char *>(pBytes), pSize});
+    return 0;
 }
 
 void Require(bool pHolds, const char *pLaw) {
@@ -28,63 +21,32 @@ void Require(bool pHolds, const char *pLaw) {
     }
 }
 
-MemoryFile::MemoryFile() : myNumber(memfd_create("norvo_fuzz", MFD_CLOEXEC)) {
-    if (myNumber < 0) {
-        throw std::runtime_error("No file in memory could be made");
+std::string BytesOf(const std::string &pFile) {
+    std::ifstream file(pFile, std::ios::binary);
+    Require(file.is_open(), "the fuzzer's own file can be read");
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+Words WordsOf(const TextRow &pRow) {
+    Words words;
+    for (int place = 1; place <= pRow.Count(); ++place) {
+        words.emplace_back(pRow(place));
     }
-}
-
-MemoryFile::~MemoryFile() {
-    close(myNumber);
-}
-
-std::string MemoryFile::Name() const {
-    return "/proc/self/fd/" + std::to_string(myNumber);
-}
-
-void MemoryFile::Write(std::string_view pBytes) const {
-    const bool isEmptied = ftruncate(myNumber, 0) == 0;
-    const ssize_t written = pwrite(myNumber, pBytes.data(), pBytes.size(), 0);
-    Require(isEmptied && written == static_cast<ssize_t>(pBytes.size()),
-            "the file in memory takes all bytes");
-}
-
-std::string MemoryFile::Read() const {
-    std::string bytes;
-    std::array<char, 4096> part{};
-    ssize_t count = 0;
-    while ((count = pread(myNumber, part.data(), part.size(), static_cast<off_t>(bytes.size()))) > 0) {
-        bytes.append(part.data(), static_cast<std::size_t>(count));
-    }
-    return bytes;
-}
-
-MessageAnswer FuzzDesktop::ShowMessage(const Message &pMessage) {
-    myMessage = pMessage.prompt;
-    return MessageAnswer::Ok;
-}
-
-std::optional<std::string> FuzzDesktop::ShowFileDialog(const Form & /*pForm*/,
-                                                       const FileDialogRequest & /*pRequest*/) {
-    return std::nullopt;
-}
-
-void FuzzDesktop::EndProcess(int /*pStatus*/) {
-    throw ProgramEnded{myMessage};
+    return words;
 }
 
 TableProbe::TableProbe() {
-    table.FileName(myFile.Name());
+    table.FileName("/proc/self/fd/" + std::to_string(memfd_create("norvo_fuzz", MFD_CLOEXEC)));
     table.Headers({"plain", "a \"quoted\", title", ""});
 }
 
 std::optional<std::string> TableProbe::Load(std::int16_t pFmt, std::string_view pBytes) {
-    myFile.Write(pBytes);
+    std::ofstream(table.FileName(), std::ios::binary) << pBytes;
     table.Fmt(pFmt);
     try {
         table.Load();
-    } catch (const FuzzDesktop::ProgramEnded &end) {
-        return end.message;
+    } catch (const NoDesktop::ProgramEnded &end) {
+        return end.what();
     }
     return std::nullopt;
 }
@@ -92,16 +54,15 @@ std::optional<std::string> TableProbe::Load(std::int16_t pFmt, std::string_view 
 std::string TableProbe::Save(std::int16_t pFmt) {
     table.Fmt(pFmt);
     table.Save();
-    Require(!HasFault(), "a table is saved without a fault");
-    return myFile.Read();
+    Require(table.Fault().empty(), "a table is saved without a fault");
+    return BytesOf(table.FileName());
 }
 
-std::vector<std::vector<std::string>> TableProbe::Cells() const {
-    std::vector<std::vector<std::string>> cells;
+std::vector<Words> TableProbe::Cells() const {
+    std::vector<Words> cells(static_cast<std::size_t>(table.Rows()));
     for (std::int16_t row = 0; row < table.Rows(); ++row) {
-        std::vector<std::string> &cellsOfRow = cells.emplace_back();
         for (std::int16_t col = 0; col < table.Cols(); ++col) {
-            cellsOfRow.push_back(table.Data(row, col));
+            cells[static_cast<std::size_t>(row)].push_back(table.Data(row, col));
         }
     }
     return cells;
@@ -110,41 +71,23 @@ std::vector<std::vector<std::string>> TableProbe::Cells() const {
 std::vector<std::string_view> LinesOf(std::string_view pBytes) {
     std::vector<std::string_view> lines;
     while (!pBytes.empty()) {
-        const std::size_t end = pBytes.find('\r');
-        lines.push_back(pBytes.substr(0, end));
-        pBytes.remove_prefix(end == std::string_view::npos ? pBytes.size() : end + 1);
-        if (end != std::string_view::npos && pBytes.substr(0, 1) == "\n") {
-            pBytes.remove_prefix(1);
-        }
+        const std::size_t length = std::min(pBytes.find('\r'), pBytes.size());
+        lines.push_back(pBytes.substr(0, length));
+        pBytes.remove_prefix(length);
+        pBytes.remove_prefix(pBytes.starts_with("\r\n") ? 2 : std::min<std::size_t>(1, pBytes.size()));
     }
     return lines;
 }
 
-namespace {
-
-/// What a decimal number is made of. Without this sieve strtod would take hexadecimal numbers, infinities and
-/// leading line breaks.
-constexpr std::string_view numberCharacters = "+-.0123456789eE";
-
-} // namespace
+std::string WithoutOuterBlanks(std::string_view pText) {
+    const std::size_t first = std::min(pText.find_first_not_of(' '), pText.size());
+    return std::string(pText.substr(first, pText.find_last_not_of(' ') + 1 - first));
+}
 
 double OtherVal(std::string_view pText) {
     std::string packed(pText);
     std::erase_if(packed, [](char pCharacter) { return pCharacter == ' ' || pCharacter == '\t'; });
     return std::strtod(packed.substr(0, packed.find_first_not_of(numberCharacters)).c_str(), nullptr);
-}
-
-std::optional<double> OtherWholeNumber(std::string_view pText) {
-    const std::size_t first = pText.find_first_not_of(' ');
-    if (first == std::string_view::npos) {
-        return std::nullopt;
-    }
-    const std::string number(pText.substr(first, pText.find_last_not_of(' ') - first + 1));
-    char *end = nullptr;
-    const double value = std::strtod(number.c_str(), &end);
-    const bool isTaken = end == number.c_str() + number.size();
-    return isTaken && number.find_first_not_of(numberCharacters) == std::string::npos ? std::optional(value)
-                                                                                      : std::nullopt;
 }
 
 std::optional<double> OtherRounded(double pValue, double pLeast, double pMost) {

@@ -1,66 +1,42 @@
-/// The .dat reader on any file: what it takes in is what the file's lines say, and the rest is empty.
+/// The .dat reader on any file. Each row is what its line says, up to a ragged line; the rest is empty.
 #include "data/modGetWords.h"
 #include "fuzz/FuzzSupport.h"
 
-#include <charconv>
+#include <algorithm>
+#include <cstdio>
 
-namespace {
-
-/// The two numbers of a first line as the program itself writes it; nothing for any other line.
-std::optional<std::pair<int, int>> PlainSize(std::string_view pLine) {
-    std::pair<int, int> size;
-    const char *const end = pLine.data() + pLine.size();
-    const auto rows = std::from_chars(pLine.data(), end, size.first);
-    if (rows.ec != std::errc() || rows.ptr == end || *rows.ptr != ',') {
-        return std::nullopt;
-    }
-    const auto cols = std::from_chars(rows.ptr + 1, end, size.second);
-    const bool fits = size.first >= 0 && size.first <= 32767 && size.second >= 0 && size.second <= 32767;
-    return cols.ec == std::errc() && cols.ptr == end && fits ? std::optional(size) : std::nullopt;
-}
-
-/// How many rows the lines behind the first give, all cells of which were compared.
-int RowsThatCame(const clsDatFile &pTable, const std::vector<std::string_view> &pLines) {
-    int row = 0;
-    for (; row < pTable.Rows() && static_cast<std::size_t>(row) + 1 < pLines.size(); ++row) {
-        const TextRow words = modGetWords::GetWords(pLines[static_cast<std::size_t>(row) + 1]);
-        if (words.Count() != pTable.Cols()) {
-            break;
-        }
-        for (std::int16_t col = 0; col < pTable.Cols(); ++col) {
-            Require(pTable.Data(static_cast<std::int16_t>(row), col) == words(col + 1),
-                    "a cell is the word of its line");
-        }
-    }
-    return row;
-}
-
-} // namespace
-
-int LLVMFuzzerTestOneInput(const std::uint8_t *pBytes, std::size_t pSize) {
+void RequireLaws(std::string_view pBytes) {
     static TableProbe probe;
-    const std::string_view bytes = Text(pBytes, pSize);
-    Require(!probe.Load(TableProbe::fmtDat, bytes), "no .dat file ends the program");
+    Require(!probe.Load(clsDatFile::fmtDat, pBytes), "no .dat file ends the program");
     const clsDatFile &table = probe.table;
     Require(table.Rows() >= 0 && table.Cols() >= 0, "no size is negative");
 
-    const auto lines = LinesOf(bytes);
-    const int came = RowsThatCame(table, lines);
-    const bool isOutOfLines = static_cast<std::size_t>(came) + 1 >= lines.size();
-    Require(came == table.Rows() || (!isOutOfLines && !probe.HasFault()),
-            "rows are missing only behind a ragged line");
-    for (const int row : {came, table.Rows() - 1}) {
-        for (const int col : {0, table.Cols() - 1}) {
-            Require(row < came ||
-                        table.Data(static_cast<std::int16_t>(row), static_cast<std::int16_t>(col)).empty(),
-                    "behind a ragged line all cells are empty");
+    const auto lines = LinesOf(pBytes);
+    std::int16_t came = 0;
+    std::size_t line = 1;
+    for (; line < lines.size() && came < table.Rows(); ++line, ++came) {
+        const TextRow words = modGetWords::GetWords(lines[line]);
+        if (words.Count() != table.Cols()) {
+            break;
         }
+        Require(WordsOf(table.Row(came)) == WordsOf(words), "the cells of a row are the words of its line");
     }
-    if (const auto size = lines.empty() ? std::nullopt : PlainSize(lines[0])) {
-        Require(table.Cols() == size->second, "the columns are as announced");
-        Require(table.Rows() == size->first ||
-                    (table.Rows() < size->first && isOutOfLines && probe.HasFault()),
+    const bool isOutOfLines = line >= lines.size();
+    Require(came == table.Rows() || (!isOutOfLines && table.Fault().empty()),
+            "rows are missing only after a ragged line");
+    Require(came == table.Rows() || table.Row(came).Run().empty(), "the row of a ragged line is empty");
+    Require(came == table.Rows() || table.Row(static_cast<std::int16_t>(table.Rows() - 1)).Run().empty(),
+            "the last row after a ragged line is empty");
+
+    // A first line in the form in which the program writes it.
+    const std::string first(lines.empty() ? "" : lines[0]);
+    int rows = -1;
+    int cols = -1;
+    std::sscanf(first.c_str(), "%5d,%5d", &rows, &cols);
+    const bool isPlain = first == std::to_string(rows) + "," + std::to_string(cols);
+    if (isPlain && std::min(rows, cols) >= 0 && std::max(rows, cols) <= 32767) {
+        Require(table.Cols() == cols, "the columns are as announced");
+        Require(table.Rows() == rows || (table.Rows() < rows && isOutOfLines && !table.Fault().empty()),
                 "the rows are as announced, or the user is told why not");
     }
-    return 0;
 }

@@ -3,44 +3,48 @@
 #include "fuzz/FuzzSupport.h"
 #include "text/Numbers.h"
 
-#include <array>
 #include <cmath>
-#include <cstdio>
 #include <cstring>
 
 namespace {
 
-void RequireRoundings(double pValue) {
-    const auto narrow = OtherRounded(pValue, -32768, 32767);
-    const auto wide = OtherRounded(pValue, -2147483648.0, 2147483647.0);
-    Require(Integer16(pValue) == narrow, "16 bits hold what is rounded to them, and nothing else");
-    Require(Integer32(pValue) == wide, "32 bits hold what is rounded to them, and nothing else");
+std::optional<double> OtherWholeNumber(std::string_view pText) {
+    const std::string number = WithoutOuterBlanks(pText);
+    char *end = nullptr;
+    const double value = std::strtod(number.c_str(), &end);
+    const bool isTaken = !number.empty() && end == number.c_str() + number.size() &&
+                         number.find_first_not_of(numberCharacters) == std::string::npos;
+    return isTaken ? std::optional(value) : std::nullopt;
+}
 
-    std::array<char, 400> digits{};
+void RequireRoundings(double pValue) {
+    Require(Integer16(pValue) == OtherRounded(pValue), "a number fits 16 bits when its rounding does");
+    Require(Integer32(pValue) == OtherRounded(pValue, -2147483648.0, 2147483647.0),
+            "a number fits 32 bits when its rounding does");
+
     const double rounded = std::isfinite(pValue) ? std::round(pValue) : 0;
-    std::snprintf(digits.data(), digits.size(), "%.0f", rounded == 0 ? 0.0 : rounded);
-    Require(FormatWhole(pValue) == digits.data(), "whole numbers are written with all their digits");
-    Require(Val(FormatWhole(pValue)) == rounded, "what is written as a number is read as the same number");
+    const std::string digits = std::to_string(rounded == 0 ? 0.0 : rounded); // "0", never "-0"
+    Require(FormatWhole(pValue) == digits.substr(0, digits.find('.')),
+            "whole numbers are written with all their digits");
+    Require(Val(FormatWhole(pValue)) == rounded, "a written number is read as the same number");
 }
 
 } // namespace
 
-int LLVMFuzzerTestOneInput(const std::uint8_t *pBytes, std::size_t pSize) {
-    const std::string text(Text(pBytes, pSize));
-    const double value = Val(text);
-    Require(value == OtherVal(text), "Val reads what strtod reads");
+void RequireLaws(std::string_view pBytes) {
+    const double value = Val(pBytes);
+    Require(value == OtherVal(pBytes), "Val reads what strtod reads");
     RequireRoundings(value);
 
-    const std::optional<double> whole = WholeNumber(text);
-    Require(whole == OtherWholeNumber(text), "a whole text is a number when strtod takes all of it");
-    Require(!whole || *whole == value, "a text that is a number is the one that Val reads");
-    Require(WholeTextInteger(text) == (whole ? OtherRounded(*whole, -32768, 32767) : std::nullopt),
+    const std::optional<double> whole = WholeNumber(pBytes);
+    Require(whole == OtherWholeNumber(pBytes), "a whole text is a number when strtod takes all of it");
+    Require(!whole || *whole == value, "Val reads the same number from such a text");
+    Require(WholeTextInteger(pBytes) == (whole ? OtherRounded(*whole) : std::nullopt),
             "a whole text is an integer when its number fits");
 
     double any = 0;
-    if (pSize >= sizeof any) {
-        std::memcpy(&any, pBytes, sizeof any);
+    if (pBytes.size() >= sizeof any) {
+        std::memcpy(&any, pBytes.data(), sizeof any);
         RequireRoundings(any);
     }
-    return 0;
 }
