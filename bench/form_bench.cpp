@@ -1,17 +1,11 @@
-/// What the user waits for between two keys, and while the window is drawn larger: the completion of what is
-/// typed, the check of a text that is left, and the placing of the fields.
-#include "bench/NoDesktop.h"
-#include "bench/Scratch.h"
+/// What the user waits for between two keys, and while the window grows: the completion of what is typed, the
+/// check of a text that is left, and the placing of the fields.
+#include "bench/Passes.h"
+#include "bench/Tables.h"
 #include "platform/ComboBox.h"
 #include "platform/Controls.h"
-#include "platform/Form.h"
-#include "platform/Runtime.h"
 #include "ui/clsCombo.h"
 #include "ui/clsLayout.h"
-
-#include <benchmark/benchmark.h>
-
-#include <fstream>
 
 namespace {
 
@@ -23,22 +17,15 @@ struct Field {
     clsCombo combo;
 
     Field(const std::string &pEntry, std::int64_t pEntries) {
-        const std::string file = Scratch::File("entries.txt");
-        std::ofstream list(file, std::ios::binary);
-        for (std::int64_t i = 1; i <= pEntries; ++i) {
-            list << pEntry << i << "\r\n";
-        }
-        list.close();
         combo.cb(box);
         combo.Mode(2);
-        combo.LoadFromTxtFile(file);
-        if (!combo.Fault().empty() || box.ListCount() != pEntries) {
-            std::abort();
+        for (std::int64_t i = 1; i <= pEntries; ++i) {
+            box.AddItem(pEntry + std::to_string(i));
         }
     }
 };
 
-/// One key: the text so far is completed by the list's last entry alone.
+/// One key: only the last entry completes the text so far.
 void Complete(benchmark::State &pState, const std::string &pEntry) {
     constexpr int someLetter = 65;
     Field field(pEntry, pState.range(0));
@@ -80,22 +67,20 @@ void Leave(benchmark::State &pState, const std::string &pEntry) {
 }
 
 void RedrawLayout(benchmark::State &pState) {
-    NoDesktop desktop;
-    Runtime runtime(desktop, {}, "");
-    Form &form = runtime.NewForm("form");
-    form.ClientSize(9000, 5000);
-    for (std::int64_t i = 0; i < pState.range(0); ++i) {
-        for (const char *kind : {"lbl", "cbo"}) {
-            auto &control = form.Add<Label>(kind + std::to_string(i));
-            control.Move(100, 100, 100, 240);
-            control.Tag("X=" + std::to_string(i) + "/100 W=1/100");
-        }
-    }
-    clsLayout layout;
-    layout.SetLayout(form);
     constexpr float narrowest = 9000;
     constexpr float widest = 20000;
     constexpr float step = 15;
+    NoDesktop desktop;
+    Runtime runtime(desktop, {}, "");
+    Form &form = runtime.NewForm("form");
+    form.ClientSize(narrowest, 5000);
+    for (std::int64_t i = 0; i < 2 * pState.range(0); ++i) { // A field is a label and a box.
+        auto &control = form.Add<Label>(std::to_string(i));
+        control.Move(100, 100, 100, 240);
+        control.Tag("X=" + std::to_string(i / 2) + "/100 W=1/100");
+    }
+    clsLayout layout;
+    layout.SetLayout(form);
     float width = narrowest;
     for (auto _ : pState) {
         width = width < widest ? width + step : narrowest;
@@ -104,25 +89,12 @@ void RedrawLayout(benchmark::State &pState) {
     }
 }
 
-void Repeat(benchmark::internal::Benchmark *pBenchmark) {
-    constexpr int repetitions = 5;
-    pBenchmark->Repetitions(repetitions)->MinTime(0.05)->DisplayAggregatesOnly(true);
+void ConfigureEntries(Passes::Benchmark *pBenchmark) {
+    Passes::Configure(pBenchmark, "entries", {625, 2500, 10'000, 40'000, 160'000});
 }
 
-void ConfigureEntries(benchmark::internal::Benchmark *pBenchmark) {
-    Repeat(pBenchmark);
-    pBenchmark->ArgName("entries")->Unit(benchmark::kMillisecond);
-    for (const int entries : {625, 2500, 10'000, 40'000, 160'000}) {
-        pBenchmark->Arg(entries);
-    }
-}
-
-void ConfigureFields(benchmark::internal::Benchmark *pBenchmark) {
-    Repeat(pBenchmark);
-    pBenchmark->ArgName("fields")->Unit(benchmark::kMicrosecond);
-    for (const int fields : {5, 10, 20, 40, 80}) {
-        pBenchmark->Arg(fields);
-    }
+void ConfigureFields(Passes::Benchmark *pBenchmark) {
+    Passes::Configure(pBenchmark, "fields", {5, 10, 20, 40, 80});
 }
 
 const std::string ascii = "Entry number ";

@@ -1,134 +1,90 @@
-/// The acts on the list of records, 80 fields each, done as the user does them: picking a row, and the
-/// buttons Add, Update, Delete, Move Up and Move Down. What one act costs must not depend on how long the
-/// list is. The rows that are acted on lie spread over the whole list, from the first to the last, and each
-/// is acted on many times, so that what is compared between lengths is the work and not the processor's
-/// caches.
+/// What a user does on the list of records, 80 fields each: picking a row, and the buttons Add, Update,
+/// Delete, Move Up and Move Down. The time of an act must not depend on how long the list is. The rows are
+/// spread over the whole list and each is acted on many times, so that the lists are compared by the work and
+/// not by the processor's caches.
 #include "bench/Editor.h"
 #include "bench/Passes.h"
-#include "bench/Scratch.h"
 
 namespace {
 
-constexpr int mostActs = 2000;
-constexpr int places = 16;
+/// What is done with a row, from 1.
+using Step = void (*)(frmMain &, int);
 
-/// A row to act on, from 1; neither the first nor the last, so that each act can be done there.
-int Place(std::int64_t pAct, int pRows) {
-    return 2 + static_cast<int>(pAct % places * (pRows - 3) / (places - 1));
-}
+const Step nothing = [](frmMain & /*pForm*/, int /*pRow*/) {};
+const Step pick = [](frmMain &pForm, int pRow) { pForm.ListView1.Pick(pRow); };
+const Step add = [](frmMain &pForm, int /*pRow*/) { pForm.cmdAdd.Press(); };
+const Step deletePicked = [](frmMain &pForm, int /*pRow*/) { pForm.cmdDel.Press(); };
+const Step pickAndDelete = [](frmMain &pForm, int pRow) {
+    pick(pForm, pRow);
+    deletePicked(pForm, pRow);
+};
+const Step moveUp = [](frmMain &pForm, int /*pRow*/) { pForm.cmdMoveUp.Press(); };
+const Step moveDown = [](frmMain &pForm, int /*pRow*/) { pForm.cmdMoveDown.Press(); };
 
-/// Times pAct, which follows on pBefore outside the clock.
-template <typename Before, typename Act>
-void MeasureActs(benchmark::State &pState, Before pBefore, Act pAct) {
-    using Clock = std::chrono::steady_clock;
+/// Times pAct alone, between pBefore and pAfter. The fields keep the text of the row picked last, so that
+/// there is something to add.
+void Act(benchmark::State &pState, Step pBefore, Step pAct, Step pAfter) {
+    constexpr int places = 16;
     const int rows = static_cast<int>(pState.range(0));
-    Editor editor(Scratch::SpecificationFile(), StandardTables::FileForm::Dat);
-    frmMain &form = editor.Main();
-    form.AppCmd("open", {Scratch::TableFile(StandardTables::FileForm::Dat, rows)});
-    std::int64_t acts = 0;
+    Editor editor(clsDatFile::fmtDat);
+    editor.form.AppCmd("open", {Tables::TableFile(clsDatFile::fmtDat, rows)});
+    int acts = 0;
     for (auto _ : pState) {
-        pBefore(form, Place(acts, rows));
-        const Clock::time_point start = Clock::now();
-        pAct(form, Place(acts, rows));
-        pState.SetIterationTime(std::chrono::duration<double>(Clock::now() - start).count());
-        ++acts;
+        const int row = 2 + acts++ % places * (rows - 3) / (places - 1); // neither the first nor the last
+        pBefore(editor.form, row);
+        pState.SetIterationTime(Passes::SecondsOf([&] { pAct(editor.form, row); }));
+        pAfter(editor.form, row);
     }
-    if (std::abs(editor.Rows() - rows) > 1) {
-        pState.SkipWithError("The list has grown or shrunk.");
+    if (editor.Rows().Count() != rows || !editor.IsQuiet()) {
+        pState.SkipWithError("The list has grown or shrunk, or there was a message.");
     }
 }
 
-void PickRow(frmMain &pForm, int pRow) {
-    pForm.ListView1.Pick(pRow);
-}
-
-void Nothing(frmMain & /*pForm*/, int /*pRow*/) {}
-
-void DeleteRow(frmMain &pForm, int pRow) {
-    pForm.ListView1.Pick(pRow);
-    pForm.cmdDel.Press();
-}
-
-/// The fields keep what was picked last, so that there is something to add.
-void AddRow(frmMain &pForm, int /*pRow*/) {
-    pForm.cmdAdd.Press();
-}
-
-void Pick(benchmark::State &pState) {
-    MeasureActs(pState, Nothing, PickRow);
-}
-
-void Add(benchmark::State &pState) {
-    MeasureActs(pState, DeleteRow, AddRow);
-}
-
-/// The button is Update while a row is picked.
-void Update(benchmark::State &pState) {
-    MeasureActs(pState, PickRow, AddRow);
-}
-
-/// Each row that is deleted was added at the end before, but for the first.
-void Delete(benchmark::State &pState) {
-    bool isFirst = true;
-    MeasureActs(
-        pState,
-        [&](frmMain &pForm, int pRow) {
-            if (!std::exchange(isFirst, false)) {
-                pForm.cmdAdd.Press();
-            }
-            PickRow(pForm, pRow);
-        },
-        [](frmMain &pForm, int /*pRow*/) { pForm.cmdDel.Press(); });
-}
-
-void MoveUp(benchmark::State &pState) {
-    MeasureActs(pState, PickRow, [](frmMain &pForm, int /*pRow*/) { pForm.cmdMoveUp.Press(); });
-}
-
-void MoveDown(benchmark::State &pState) {
-    MeasureActs(pState, PickRow, [](frmMain &pForm, int /*pRow*/) { pForm.cmdMoveDown.Press(); });
-}
-
-/// From cells into the list, as a table is shown.
-void FillList(benchmark::State &pState) {
+/// A list on a form of its own.
+struct List {
     NoDesktop desktop;
-    Runtime runtime(desktop, {}, "");
+    Runtime runtime{desktop, {}, ""};
     clsListViewRpt report;
-    report.LV(runtime.NewForm("form").Add<ListView>("list"));
-    report.Headers(StandardTables::Titles(StandardTables::limit.cols));
-    const auto rows = static_cast<std::int16_t>(pState.range(0));
-    const auto fill = [&](int /*pNothing*/) {
-        for (std::int16_t row = 0; row < rows; ++row) {
-            report.AddRow();
-            for (std::int16_t col = 0; col < StandardTables::limit.cols; ++col) {
-                report.Data(
-                    row, col,
-                    Scratch::LimitCells()[static_cast<std::size_t>(row)][static_cast<std::size_t>(col)]);
+};
+
+/// Puts cells into the list, as a table is shown.
+void FillList(benchmark::State &pState) {
+    const Tables::Cells cells = Tables::LimitCells(pState.range(0));
+    const auto prepare = [] {
+        auto list = std::make_unique<List>();
+        list->report.LV(list->runtime.NewForm("form").Add<ListView>("list"));
+        list->report.Headers(Tables::Titles(Tables::limitCols));
+        return list;
+    };
+    const auto fill = [&](const std::unique_ptr<List> &pList) {
+        std::int16_t row = 0;
+        for (const Tables::Row &texts : cells) {
+            pList->report.AddRow();
+            std::int16_t col = 0;
+            for (const std::string &text : texts) {
+                pList->report.Data(row, col++, text);
             }
+            ++row;
         }
     };
-    const auto clear = [&] {
-        report.Clear();
-        return 0;
-    };
-    Passes::Measure(pState, clear, fill, [&](int /*pNothing*/) { return report.Rows() == rows; });
+    Passes::Measure(pState, prepare, fill, [&](const std::unique_ptr<List> &pList) {
+        return std::cmp_equal(pList->report.Rows(), cells.size());
+    });
 }
 
-void Configure(benchmark::internal::Benchmark *pBenchmark) {
-    constexpr int repetitions = 5;
-    pBenchmark->ArgName("rows")->Unit(benchmark::kMicrosecond)->UseManualTime()->Iterations(mostActs);
-    pBenchmark->Repetitions(repetitions)->DisplayAggregatesOnly(true);
-    for (const int rows : StandardTables::rowCounts) {
-        pBenchmark->Arg(rows);
-    }
+void Configure(Passes::Benchmark *pBenchmark) {
+    constexpr int acts = 2000;
+    Passes::ConfigureRows(pBenchmark);
+    pBenchmark->Iterations(acts)->Repetitions(Passes::warmRepetitions);
 }
 
 } // namespace
 
-BENCHMARK(Pick)->Apply(Configure);
-BENCHMARK(Add)->Apply(Configure);
-BENCHMARK(Update)->Apply(Configure);
-BENCHMARK(Delete)->Apply(Configure);
-BENCHMARK(MoveUp)->Apply(Configure);
-BENCHMARK(MoveDown)->Apply(Configure);
+BENCHMARK_CAPTURE(Act, Pick, nothing, pick, nothing)->Apply(Configure);
+BENCHMARK_CAPTURE(Act, Add, pickAndDelete, add, nothing)->Apply(Configure);
+// The button Add is Update while a row is picked.
+BENCHMARK_CAPTURE(Act, Update, pick, add, nothing)->Apply(Configure);
+BENCHMARK_CAPTURE(Act, Delete, pick, deletePicked, add)->Apply(Configure);
+BENCHMARK_CAPTURE(Act, MoveUp, pick, moveUp, nothing)->Apply(Configure);
+BENCHMARK_CAPTURE(Act, MoveDown, pick, moveDown, nothing)->Apply(Configure);
 BENCHMARK(FillList)->Apply(Passes::ConfigureRows);

@@ -1,39 +1,52 @@
+/// table_once make FOLDER: writes the tables typical.dat (42 KB) and limit.dat (36 MB) into the folder, each
+/// with the specification that it opens by: typical-spec.dat and limit-spec.dat.
 /// table_once load FILE: loads a .dat file and ends.
 /// table_once save FILE COPY: loads it, saves it as COPY and ends.
-/// One run of it is what an instruction counter counts, so it does nothing else.
+/// An instruction counter counts a whole run of "load" or "save", so these do nothing else.
 #include "bench/NoDesktop.h"
+#include "bench/Tables.h"
 #include "data/clsDatFile.h"
 #include "platform/Runtime.h"
 
-#include <string_view>
+#include <cstdio>
 
 namespace {
 
-bool IsGood(const clsDatFile &pTable) {
-    if (!pTable.Fault().empty()) {
-        std::fprintf(stderr, "table_once: %s\n", pTable.Fault().c_str());
-        return false;
+void Make(const std::string &pFile, int pRows, int pCols) {
+    Tables::Write(pFile + ".dat", Tables::FileText(clsDatFile::fmtDat, Tables::MakeCells(pRows, pCols)));
+    Tables::Write(pFile + "-spec.dat", Tables::FileText(clsDatFile::fmtDat, Tables::Specification(pCols)));
+}
+
+/// pCopy: none if empty.
+int LoadAndSave(const std::string &pFile, const std::string &pCopy) {
+    NoDesktop desktop;
+    const Runtime runtime(desktop, {}, "");
+    clsDatFile table(runtime);
+    table.FileName(pFile);
+    table.Load();
+    if (!pCopy.empty() && table.Fault().empty()) {
+        table.FileName(pCopy);
+        table.Save();
     }
-    return true;
+    std::fputs(table.Fault().c_str(), stderr);
+    return table.Fault().empty() ? 0 : 1;
 }
 
 } // namespace
 
 int main(int argc, char **argv) {
-    const std::string_view act = argc > 1 ? argv[1] : "";
-    const bool isSave = act == "save" && argc == 4;
-    if (!isSave && (act != "load" || argc != 3)) {
-        std::fputs("Usage: table_once load FILE | save FILE COPY\n", stderr);
-        return 1;
+    const std::vector<std::string> words(argv + 1, argv + argc);
+    if (words.size() == 2 && words[0] == "make") {
+        Make(words[1] + "/typical", 500, 6);
+        Make(words[1] + "/limit", Tables::limitRows, Tables::limitCols);
+        return 0;
     }
-    NoDesktop desktop;
-    const Runtime runtime(desktop, {}, "");
-    clsDatFile table(runtime);
-    table.FileName(argv[2]);
-    table.Load();
-    if (IsGood(table) && isSave) {
-        table.FileName(argv[3]);
-        table.Save();
+    if (words.size() == 2 && words[0] == "load") {
+        return LoadAndSave(words[1], "");
     }
-    return IsGood(table) ? 0 : 1;
+    if (words.size() == 3 && words[0] == "save") {
+        return LoadAndSave(words[1], words[2]);
+    }
+    std::fputs("Usage: table_once make FOLDER | load FILE | save FILE COPY\n", stderr);
+    return 1;
 }

@@ -1,49 +1,60 @@
-/// The words of one line, from 10 KB to 10 MB, of the kinds of lines that a file can bring: many fields; one
-/// field full of quotes; and quotes with so many blanks behind them that each could be the last.
-#include "bench/StandardTables.h"
+/// The words of one line, from 10 KB to 10 MB, of the kinds of lines that a file can bring. Fields and plain
+/// cells are the same cells, once in quotes and once without.
+#include "bench/Passes.h"
+#include "bench/Tables.h"
 #include "data/modGetWords.h"
-
-#include <benchmark/benchmark.h>
 
 namespace {
 
-std::string FieldsLine(std::size_t pBytes) {
-    return StandardTables::Line(pBytes);
+/// As many cells as make a line of about pBytes bytes in quotes.
+Tables::Row CellsFor(std::int64_t pBytes) {
+    constexpr std::int64_t bytesOfField = 14;
+    return Tables::MakeCells(1, static_cast<int>(pBytes / bytesOfField)).front();
 }
 
-std::string QuotesLine(std::size_t pBytes) {
-    return '"' + std::string(pBytes / 2 * 2, '"') + '"';
+std::string FieldsLine(std::int64_t pBytes) {
+    std::string line;
+    Tables::AppendRow(line, CellsFor(pBytes));
+    return line.substr(0, line.find('\r'));
 }
 
-/// A quote, and behind the blanks another one that makes all of it the word's own.
-std::string BlanksLine(std::size_t pBytes) {
-    constexpr std::size_t blanks = 200;
+std::string PlainLine(std::int64_t pBytes) {
+    std::string line;
+    for (const std::string &cell : CellsFor(pBytes)) {
+        line += cell + ",";
+    }
+    line.pop_back(); // A line that ends in a comma has no words.
+    return line;
+}
+
+/// One field full of quotes.
+std::string QuotesLine(std::int64_t pBytes) {
+    return std::string(static_cast<std::size_t>(pBytes) / 2 * 2 + 2, '"');
+}
+
+/// One field of quotes with many blanks after them, so that each could be the last.
+std::string BlanksLine(std::int64_t pBytes) {
     std::string line = "\"";
-    while (line.size() < pBytes) {
-        line += '"' + std::string(blanks, ' ') + '"';
+    while (std::cmp_less(line.size(), pBytes)) {
+        line += '"' + std::string(200, ' ') + '"';
     }
     return line + '"';
 }
 
-void GetWords(benchmark::State &pState, std::string (*pLineOf)(std::size_t)) {
-    const std::string line = pLineOf(static_cast<std::size_t>(pState.range(0)));
+void GetWords(benchmark::State &pState, std::string (*pLineOf)(std::int64_t)) {
+    const std::string line = pLineOf(pState.range(0));
     for (auto _ : pState) {
         benchmark::DoNotOptimize(modGetWords::GetWords(line));
     }
-    pState.SetBytesProcessed(static_cast<std::int64_t>(line.size()) * pState.iterations());
 }
 
-void Configure(benchmark::internal::Benchmark *pBenchmark) {
-    constexpr int repetitions = 5;
-    pBenchmark->ArgName("bytes")->Unit(benchmark::kMillisecond);
-    pBenchmark->Repetitions(repetitions)->MinTime(0.05)->DisplayAggregatesOnly(true);
-    for (const int bytes : StandardTables::byteCounts) {
-        pBenchmark->Arg(bytes);
-    }
+void Configure(Passes::Benchmark *pBenchmark) {
+    Passes::Configure(pBenchmark, "bytes", Tables::byteCounts);
 }
 
 } // namespace
 
 BENCHMARK_CAPTURE(GetWords, fields, FieldsLine)->Apply(Configure);
+BENCHMARK_CAPTURE(GetWords, plain, PlainLine)->Apply(Configure);
 BENCHMARK_CAPTURE(GetWords, quotes, QuotesLine)->Apply(Configure);
 BENCHMARK_CAPTURE(GetWords, blanks, BlanksLine)->Apply(Configure);

@@ -166,7 +166,7 @@ class Started:
         screen.forget()
         begin = time.perf_counter()
         self.process = screen.run(*words)
-        self.start_time = self._last_damage(screen.created, begin, QUIET_AT_START) - begin
+        self.start_time = self._wait(screen.created, begin, QUIET_AT_START, must_paint=True) - begin
         self.window = screen.until(self._active_of_created, "the window of " + words[0])
         self.window.configure(x=x, y=y)
         self.settle()
@@ -184,19 +184,12 @@ class Started:
 
     def _processor_time(self):
         """Seconds that all its threads have run."""
-        total = 0
-        folder = "/proc/%d/task" % self.process.pid
-        for thread in os.listdir(folder):
-            try:
-                with open(os.path.join(folder, thread, "schedstat"), encoding="ascii") as file:
-                    total += int(file.read().split()[0])
-            except FileNotFoundError:
-                continue  # It has ended meanwhile.
-        return total / 1e9
+        clock = ~self.process.pid << 3 | 2  # See clock_getcpuclockid(3).
+        return time.clock_gettime(clock)
 
-    def _last_damage(self, windows, begin, quiet):
-        """When one of the windows was painted last before it stayed so for a while, the program having nothing
-        more to do."""
+    def _wait(self, windows, begin, quiet, must_paint):
+        """Waits until nothing paints and the program has had nothing to do for that many seconds. Returns when one of
+        the windows was painted last."""
         last, since = None, begin
         used = self._processor_time()
         while time.perf_counter() < begin + TIMEOUT:
@@ -209,7 +202,7 @@ class Started:
                 used = self._processor_time()
             elif time.perf_counter() >= since + quiet:
                 before, used = used, self._processor_time()
-                if last and used - before < IDLE:
+                if used - before < IDLE and (last or not must_paint):
                     return last
                 since = time.perf_counter()
         raise NotSeen("nothing painted in %d s" % TIMEOUT)
@@ -217,21 +210,15 @@ class Started:
     def settle(self):
         """Waits until nothing more comes of what was done."""
         self.screen.display.sync()
-        since = time.perf_counter()
-        used = self._processor_time()
-        while time.perf_counter() < since + QUIET:
-            self.screen.listen(since + QUIET - time.perf_counter())
-            if time.perf_counter() >= since + QUIET:
-                before, used = used, self._processor_time()
-                if used - before >= IDLE:
-                    since = time.perf_counter()
+        self.screen.damaged.clear()
+        self._wait([self.window.id], time.perf_counter(), QUIET, must_paint=False)
 
     def time(self):
         """Seconds from the requests that wait to be sent to the final picture of the window."""
         self.screen.damaged.clear()
         begin = time.perf_counter()
         self.screen.display.flush()
-        return self._last_damage([self.window.id], begin, QUIET) - begin
+        return self._wait([self.window.id], begin, QUIET, must_paint=True) - begin
 
     def activate(self):
         self.screen.activate(self.window)
@@ -272,9 +259,6 @@ class Started:
         with open("/proc/%d/status" % self.process.pid, encoding="ascii", errors="replace") as file:
             line = next(one for one in file if one.startswith("VmHWM:"))
         return int(line.split()[1]) * 1024
-
-    def picture(self, path):
-        subprocess.run(["import", "-window", str(self.window.id), path], env=self.screen.environment, check=True)
 
     def inks(self, left, top, width, height):
         """How many different colours a part of the window shows."""
