@@ -19,10 +19,15 @@ public:
     bool IsQuiet() const { return myDesktop.LastMessage().empty(); }
 
 private:
+    static std::string SpecFile() {
+        static const auto columns = Tables::Specification(Tables::limitCols);
+        return Tables::File(clsDatFile::fmtDat, columns);
+    }
+
     NoDesktop myDesktop;
     Runtime myRuntime{myDesktop, {}, ""};
     frmAbout myAbout{myRuntime};
 
 public:
-    frmMain form{myRuntime, Tables::SpecificationFile(), myAbout};
+    frmMain form{myRuntime, SpecFile(), myAbout};
 };

@@ -1,11 +1,17 @@
 #include "bench/Tables.h"
 
+#include "data/clsDatFile.h"
+
+#include <algorithm>
 #include <array>
-#include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
+#include <map>
+#include <random>
 #include <string_view>
+#include <tuple>
 
 #include <unistd.h>
 
@@ -15,43 +21,22 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Draws the cells. The library's distributions would give other numbers with another compiler.
-class CellMaker {
-public:
-    std::string Next() {
-        constexpr std::size_t shortest = 4;
-        constexpr std::size_t longest = 17;
-        constexpr std::size_t kinds = 16;
-        std::string cell(shortest + Draw(longest - shortest + 1), ' ');
-        for (char &character : cell) {
-            character = letters[Draw(letters.size())];
-        }
-        const std::size_t middle = cell.size() / 2;
-        const std::size_t kind = Draw(kinds);
-        if (kind == 1) {
-            cell.insert(middle, "\"\"");
-        } else if (kind == 2) {
-            cell.insert(middle, foreignLetters[Draw(foreignLetters.size())]);
-        } else if (kind <= 4) {
-            cell[middle] = kind == 0 ? ',' : ' ';
-        }
-        return cell;
+/// The standard fixes what the engine draws, but not what its distributions do.
+std::string MakeCell(std::mt19937 &pEngine) {
+    constexpr std::size_t shortest = 4;
+    constexpr std::size_t lengths = 14;
+    constexpr std::size_t kinds = 16;
+    constexpr std::array<std::string_view, 6> middles{",", "\"\"", "é", "ж", " ", " "};
+    std::string cell(shortest + pEngine() % lengths, ' ');
+    for (char &character : cell) {
+        character = static_cast<char>('a' + pEngine() % 26);
     }
-
-private:
-    static constexpr std::string_view letters =
-        "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789";
-    static constexpr std::array<std::string_view, 4> foreignLetters{"é", "ß", "λ", "ж"};
-
-    /// From 0 to pBelow - 1.
-    std::size_t Draw(std::size_t pBelow) {
-        constexpr int goodBits = 33; // The low ones repeat too soon.
-        myState = myState * 6364136223846793005U + 1442695040888963407U;
-        return static_cast<std::size_t>((myState >> goodBits) % pBelow);
+    const std::size_t kind = pEngine() % kinds;
+    if (kind < middles.size()) {
+        cell.replace(cell.size() / 2, 1, middles[kind]);
     }
-
-    std::uint64_t myState = 20011;
-};
+    return cell;
+}
 
 void AppendField(std::string &pText, const std::string &pCell) {
     std::size_t from = 0;
@@ -80,39 +65,38 @@ std::string FileNamed(const std::string &pName) {
     return (folder.path / pName).string();
 }
 
-template <typename MakeCells> std::string Made(const std::string &pName, std::int16_t pFmt, MakeCells pMake) {
-    std::string file = FileNamed(pName);
-    if (!fs::exists(file)) {
-        Write(file, FileText(pFmt, pMake()));
-    }
-    return file;
+std::string Bytes(const std::string &pFile) {
+    std::string bytes(fs::file_size(pFile), '\0');
+    std::ifstream(pFile, std::ios::binary).read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    return bytes;
 }
 
 } // namespace
 
-std::vector<Row> MakeCells(int pRows, int pCols) {
-    CellMaker maker;
-    std::vector<Row> cells(static_cast<std::size_t>(pRows), Row(static_cast<std::size_t>(pCols)));
+std::vector<Row> Make(int pRows, int pCols) {
+    std::mt19937 engine;
+    std::vector<Row> cells(static_cast<std::size_t>(pRows));
     for (Row &row : cells) {
-        for (std::string &cell : row) {
-            cell = maker.Next();
-        }
+        std::generate_n(std::back_inserter(row), pCols, [&] { return MakeCell(engine); });
     }
     return cells;
 }
 
-Cells LimitCells(std::int64_t pRows) {
-    static const std::vector<Row> cells = MakeCells(limitRows, limitCols);
+Cells Limit(std::int64_t pRows) {
+    static const std::vector<Row> cells = Make(limitRows, limitCols);
     return Cells(cells).first(static_cast<std::size_t>(pRows));
 }
 
-std::vector<Row> LongField(std::size_t pBytes) {
-    constexpr std::size_t quoteDistance = 8;
-    std::string field(pBytes, 'x');
-    for (std::size_t at = quoteDistance / 2; at < pBytes; at += quoteDistance) {
-        field[at] = '"';
+Cells LongField(std::int64_t pBytes) {
+    static std::map<std::int64_t, Row> fields;
+    Row &row = fields[pBytes];
+    if (row.empty()) {
+        row = {""};
+        while (std::cmp_less(row[0].size(), pBytes)) {
+            row[0] += "xxxx\"xxx";
+        }
     }
-    return {{field}};
+    return {&row, 1};
 }
 
 std::vector<Row> Specification(int pCols) {
@@ -158,17 +142,14 @@ std::string FileText(std::int16_t pFmt, Cells pCells) {
     return text;
 }
 
-std::string TableFile(std::int16_t pFmt, std::int64_t pRows) {
-    const std::string name = "table" + std::to_string(pFmt) + "_" + std::to_string(pRows);
-    return Made(name, pFmt, [&] { return LimitCells(pRows); });
-}
-
-std::string LongFieldFile(std::size_t pBytes) {
-    return Made("field" + std::to_string(pBytes), clsDatFile::fmtDat, [&] { return LongField(pBytes); });
-}
-
-std::string SpecificationFile() {
-    return Made("specification", clsDatFile::fmtDat, [] { return Specification(limitCols); });
+std::string File(std::int16_t pFmt, Cells pCells) {
+    static std::map<std::tuple<std::int16_t, const Row *, std::size_t>, std::string> files;
+    std::string &file = files[{pFmt, pCells.data(), pCells.size()}];
+    if (file.empty()) {
+        file = FileNamed("table" + std::to_string(files.size()));
+        std::ofstream(file, std::ios::binary) << FileText(pFmt, pCells);
+    }
+    return file;
 }
 
 std::string FreshCopy() {
@@ -179,20 +160,6 @@ std::string FreshCopy() {
 
 bool IsCopyOf(const std::string &pFile) {
     return Bytes(FileNamed("copy")) == Bytes(pFile);
-}
-
-std::string Bytes(const std::string &pFile) {
-    std::string bytes(fs::file_size(pFile), '\0');
-    std::ifstream(pFile, std::ios::binary).read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    return bytes;
-}
-
-void Write(const std::string &pFile, const std::string &pBytes) {
-    std::ofstream file(pFile, std::ios::binary);
-    if (!(file << pBytes << std::flush)) {
-        std::fprintf(stderr, "%s can't be written\n", pFile.c_str());
-        std::exit(EXIT_FAILURE);
-    }
 }
 
 } // namespace Tables

@@ -1,13 +1,11 @@
 #pragma once
 /// The tables that everything here is measured on, and their files. They are the same bytes each time and on
 /// each machine. Cells vary in length around 10.7 bytes; some hold a comma, some a quote that the file
-/// doubles, some letters beyond ASCII. No cell begins or ends in a blank or holds a line end, so that each
+/// doubles, some a letter beyond ASCII. No cell begins or ends in a blank or holds a line end, so that each
 /// reader finds the same cells.
 ///
 /// The files are in a folder that goes when the program ends. It is made in memory (/dev/shm), where no disk
 /// slows things down, or in the folder that NORVO_BENCH_FOLDER names.
-#include "data/clsDatFile.h"
-
 #include <cstdint>
 #include <span>
 #include <string>
@@ -27,13 +25,13 @@ inline const std::vector<std::int64_t> rowCounts{2048, 4096, 8192, 16384, limitR
 inline const std::vector<std::int64_t> byteCounts{10'000, 60'000, 300'000, 1'800'000, 10'000'000};
 
 /// Makes a table. A shorter table is the beginning of a longer one with as many columns.
-std::vector<Row> MakeCells(int pRows, int pCols);
+std::vector<Row> Make(int pRows, int pCols);
 
 /// The first pRows rows of the limit table, which is 32,767 by 80, 36 MB.
-Cells LimitCells(std::int64_t pRows);
+Cells Limit(std::int64_t pRows);
 
 /// A table of one field of pBytes bytes, every eighth a quote.
-std::vector<Row> LongField(std::size_t pBytes);
+Cells LongField(std::int64_t pBytes);
 
 /// A specification for pCols columns, at most 100: text boxes that share the window's whole width.
 std::vector<Row> Specification(int pCols);
@@ -47,22 +45,14 @@ std::string SizeLine(Cells pCells);
 /// Adds a row to the text of a file: all fields in quotes, the line ended by CR LF.
 void AppendRow(std::string &pText, const Row &pRow);
 
-/// The whole file of a table.
+/// The whole file of a table. pFmt is one of clsDatFile's.
 std::string FileText(std::int16_t pFmt, Cells pCells);
 
-// Files. Each is written when it is asked for first.
-
-std::string TableFile(std::int16_t pFmt, std::int64_t pRows);
-std::string LongFieldFile(std::size_t pBytes);
-std::string SpecificationFile();
+/// The path of that file. It is written when it is asked for first, so pCells has to last.
+std::string File(std::int16_t pFmt, Cells pCells);
 
 /// The path for a new copy of a table. The last copy is removed.
 std::string FreshCopy();
 bool IsCopyOf(const std::string &pFile);
-
-std::string Bytes(const std::string &pFile);
-
-/// Ends the program when the file can't be written.
-void Write(const std::string &pFile, const std::string &pBytes);
 
 } // namespace Tables

@@ -1,8 +1,10 @@
 /// Reading and writing a table, in fresh memory. Compare
-///   Load    (file to kept cells) with libcsv's cells and getline's (the same), and with SplitIntoReferences
-///           (file to references) and ReadWhole, which do less;
-///   Save    (kept cells to file) with libcsv's two writers and QuoteInBlocks (the same), and with PlainWrite
-///           of the finished bytes, which does less;
+///   Load    (file to kept cells) with libcsv's cells and getline's (the same), and with the bare loop (file
+///   to
+///           references) and reading the file whole, which do less;
+///   Save    (kept cells to file) with libcsv's two writers and quoting in blocks (the same), and with a
+///   plain
+///           write of the finished bytes, which does less;
 ///   AppOpen (file to the list) with Load, and AppSave (the list to file) with Save.
 /// All writers flush the file, which costs nothing in memory. NORVO_BENCH_FOLDER names a folder on a disk to
 /// measure that too.
@@ -10,13 +12,15 @@
 #include "bench/Passes.h"
 #include "bench/Peers.h"
 
+#include <algorithm>
+
 namespace {
 
 using Tables::Cells;
 
-Cells CellsFor(const benchmark::State &pState) {
-    return Tables::LimitCells(pState.range(0));
-}
+constexpr std::int16_t dat = clsDatFile::fmtDat;
+constexpr std::int16_t csv = clsDatFile::fmtCsv;
+constexpr std::int16_t csvh = clsDatFile::fmtCsvWithHeaders;
 
 clsDatFile TableOf(const std::string &pFile, std::int16_t pFmt) {
     static NoDesktop desktop;
@@ -27,19 +31,7 @@ clsDatFile TableOf(const std::string &pFile, std::int16_t pFmt) {
     return table;
 }
 
-/// Results are compared by their size and their last row.
-bool Holds(const std::vector<Tables::Row> &pRows, Cells pWanted) {
-    return pRows.size() == pWanted.size() + 1 && pRows.back() == pWanted.back();
-}
-
-bool Holds(const Peers::References &pReferences, Cells pWanted) {
-    const std::size_t cols = pWanted.front().size();
-    return pReferences.cells.size() == pWanted.size() * cols && pReferences.Last(cols) == pWanted.back();
-}
-
-bool Holds(const Peers::Buffer &pBuffer, Cells pWanted) {
-    return pBuffer.size == Tables::FileText(clsDatFile::fmtDat, pWanted).size();
-}
+// Results are compared by their size and their last row.
 
 bool IsLast(int pRow, const TextRow &pTexts, Cells pWanted) {
     const TextRow wanted(pWanted.back());
@@ -47,66 +39,69 @@ bool IsLast(int pRow, const TextRow &pTexts, Cells pWanted) {
            std::ranges::equal(pTexts.Ends(), wanted.Ends());
 }
 
-void MeasureLoad(benchmark::State &pState, const std::string &pFile, std::int16_t pFmt, Cells pWanted) {
+bool Holds(const std::vector<Tables::Row> &pRows, Cells pWanted) {
+    return pRows.size() == pWanted.size() + 1 && pRows.back() == pWanted.back();
+}
+
+bool Holds(const Peers::References &pReferences, Cells pWanted) {
+    const std::size_t cols = pWanted.back().size();
+    return pReferences.cells.size() == pWanted.size() * cols && pReferences.Last(cols) == pWanted.back();
+}
+
+bool Holds(const Peers::Buffer &pBuffer, Cells pWanted) {
+    return pBuffer.size == Tables::FileText(dat, pWanted).size();
+}
+
+/// What a benchmark is measured on, by its size.
+using Source = Cells (*)(std::int64_t);
+
+void Load(benchmark::State &pState, std::int16_t pFmt, Source pSource) {
+    const Cells cells = pSource(pState.range(0));
+    const std::string file = Tables::File(pFmt, cells);
     Passes::Measure(
-        pState, [&] { return TableOf(pFile, pFmt); }, [](clsDatFile &pTable) { pTable.Load(); },
-        [&](const clsDatFile &pTable) {
+        pState, [&] { return TableOf(file, pFmt); }, [](auto &pTable) { pTable.Load(); },
+        [&](auto &pTable) {
             const auto last = static_cast<std::int16_t>(pTable.Rows() - 1);
-            return IsLast(pTable.Rows(), pTable.Row(last), pWanted);
+            return IsLast(pTable.Rows(), pTable.Row(last), cells);
         });
 }
 
-void Load(benchmark::State &pState, std::int16_t pFmt) {
-    MeasureLoad(pState, Tables::TableFile(pFmt, pState.range(0)), pFmt, CellsFor(pState));
-}
-
-/// A field alone in its table. Its bytes are the size here.
-void LoadLongField(benchmark::State &pState) {
-    const auto bytes = static_cast<std::size_t>(pState.range(0));
-    MeasureLoad(pState, Tables::LongFieldFile(bytes), clsDatFile::fmtDat, Tables::LongField(bytes));
-}
-
 void AppOpen(benchmark::State &pState, std::int16_t pFmt) {
-    const std::string file = Tables::TableFile(pFmt, pState.range(0));
+    const Cells cells = Tables::Limit(pState.range(0));
+    const std::string file = Tables::File(pFmt, cells);
     Passes::Measure(
         pState, [&] { return std::make_unique<Editor>(pFmt); },
-        [&](const std::unique_ptr<Editor> &pEditor) { pEditor->form.AppCmd("open", {file}); },
-        [&](const std::unique_ptr<Editor> &pEditor) {
+        [&](auto &pEditor) { pEditor->form.AppCmd("open", {file}); },
+        [&](auto &pEditor) {
             const ListItems &rows = pEditor->Rows();
-            return pEditor->IsQuiet() && IsLast(rows.Count(), rows(rows.Count()).Texts(), CellsFor(pState));
+            return pEditor->IsQuiet() && IsLast(rows.Count(), rows(rows.Count()).Texts(), cells);
         });
 }
 
 template <typename Result> void ReadPeer(benchmark::State &pState, Result (*pRead)(const std::string &)) {
-    const std::string file = Tables::TableFile(clsDatFile::fmtDat, pState.range(0));
+    const Cells cells = Tables::Limit(pState.range(0));
+    const std::string file = Tables::File(dat, cells);
     Passes::Measure(
         pState, [] { return Result(); }, [&](Result &pResult) { pResult = pRead(file); },
-        [&](const Result &pResult) { return Holds(pResult, CellsFor(pState)); });
+        [&](const Result &pResult) { return Holds(pResult, cells); });
 }
 
-void MeasureSave(benchmark::State &pState, const std::string &pFile, std::int16_t pFmt) {
+void Save(benchmark::State &pState, std::int16_t pFmt, Source pSource) {
+    const std::string file = Tables::File(pFmt, pSource(pState.range(0)));
     const auto prepare = [&] {
-        clsDatFile table = TableOf(pFile, pFmt);
+        clsDatFile table = TableOf(file, pFmt);
         table.Headers(Tables::Titles(Tables::limitCols));
         table.Load();
         table.FileName(Tables::FreshCopy());
         return table;
     };
     Passes::Measure(
-        pState, prepare, [](clsDatFile &pTable) { pTable.Save(); },
-        [&](const clsDatFile & /*pTable*/) { return Tables::IsCopyOf(pFile); });
-}
-
-void Save(benchmark::State &pState, std::int16_t pFmt) {
-    MeasureSave(pState, Tables::TableFile(pFmt, pState.range(0)), pFmt);
-}
-
-void SaveLongField(benchmark::State &pState) {
-    MeasureSave(pState, Tables::LongFieldFile(static_cast<std::size_t>(pState.range(0))), clsDatFile::fmtDat);
+        pState, prepare, [](auto &pTable) { pTable.Save(); },
+        [&](auto & /*pTable*/) { return Tables::IsCopyOf(file); });
 }
 
 void AppSave(benchmark::State &pState, std::int16_t pFmt) {
-    const std::string file = Tables::TableFile(pFmt, pState.range(0));
+    const std::string file = Tables::File(pFmt, Tables::Limit(pState.range(0)));
     std::string copy;
     const auto prepare = [&] {
         auto editor = std::make_unique<Editor>(pFmt);
@@ -115,49 +110,48 @@ void AppSave(benchmark::State &pState, std::int16_t pFmt) {
         return editor;
     };
     Passes::Measure(
-        pState, prepare,
-        [&](const std::unique_ptr<Editor> &pEditor) { pEditor->form.AppCmd("save", {copy}); },
-        [&](const std::unique_ptr<Editor> &pEditor) { return pEditor->IsQuiet() && Tables::IsCopyOf(file); });
+        pState, prepare, [&](auto &pEditor) { pEditor->form.AppCmd("save", {copy}); },
+        [&](auto &pEditor) { return pEditor->IsQuiet() && Tables::IsCopyOf(file); });
 }
 
 template <typename Write> void MeasureWrite(benchmark::State &pState, Write pWrite) {
-    const std::string file = Tables::TableFile(clsDatFile::fmtDat, pState.range(0));
+    const std::string file = Tables::File(dat, Tables::Limit(pState.range(0)));
     Passes::Measure(pState, Tables::FreshCopy, pWrite,
-                    [&](const std::string & /*pCopy*/) { return Tables::IsCopyOf(file); });
+                    [&](auto & /*pCopy*/) { return Tables::IsCopyOf(file); });
 }
 
 void WritePeer(benchmark::State &pState, void (*pWrite)(const std::string &, Cells)) {
-    const Cells cells = CellsFor(pState);
+    const Cells cells = Tables::Limit(pState.range(0));
     MeasureWrite(pState, [&](const std::string &pCopy) { pWrite(pCopy, cells); });
 }
 
 void PlainWrite(benchmark::State &pState) {
-    const std::string bytes = Tables::FileText(clsDatFile::fmtDat, CellsFor(pState));
+    const std::string bytes = Tables::FileText(dat, Tables::Limit(pState.range(0)));
     MeasureWrite(pState, [&](const std::string &pCopy) { Peers::PlainWrite(pCopy, bytes); });
 }
 
 } // namespace
 
-BENCHMARK_CAPTURE(Load, dat, clsDatFile::fmtDat)->Apply(Passes::ConfigureRows);
-BENCHMARK_CAPTURE(Load, csv, clsDatFile::fmtCsv)->Apply(Passes::ConfigureRows);
-BENCHMARK_CAPTURE(Load, csvh, clsDatFile::fmtCsvWithHeaders)->Apply(Passes::ConfigureRows);
-BENCHMARK_CAPTURE(AppOpen, dat, clsDatFile::fmtDat)->Apply(Passes::ConfigureRows);
-BENCHMARK_CAPTURE(AppOpen, csv, clsDatFile::fmtCsv)->Apply(Passes::ConfigureRows);
-BENCHMARK_CAPTURE(AppOpen, csvh, clsDatFile::fmtCsvWithHeaders)->Apply(Passes::ConfigureRows);
+BENCHMARK_CAPTURE(Load, dat, dat, Tables::Limit)->Apply(Passes::ConfigureRows);
+BENCHMARK_CAPTURE(Load, csv, csv, Tables::Limit)->Apply(Passes::ConfigureRows);
+BENCHMARK_CAPTURE(Load, csvh, csvh, Tables::Limit)->Apply(Passes::ConfigureRows);
+BENCHMARK_CAPTURE(Load, field, dat, Tables::LongField)->Name("LoadLongField")->Apply(Passes::ConfigureBytes);
+BENCHMARK_CAPTURE(AppOpen, dat, dat)->Apply(Passes::ConfigureRows);
+BENCHMARK_CAPTURE(AppOpen, csv, csv)->Apply(Passes::ConfigureRows);
+BENCHMARK_CAPTURE(AppOpen, csvh, csvh)->Apply(Passes::ConfigureRows);
 BENCHMARK_CAPTURE(ReadPeer, libcsv, Peers::ReadByLibcsv)->Apply(Passes::ConfigureRows);
 BENCHMARK_CAPTURE(ReadPeer, libcsv_room, Peers::ReadByLibcsvWithRoom)->Apply(Passes::ConfigureRows);
 BENCHMARK_CAPTURE(ReadPeer, getline, Peers::ReadByGetline)->Apply(Passes::ConfigureRows);
 BENCHMARK_CAPTURE(ReadPeer, references, Peers::SplitIntoReferences)->Apply(Passes::ConfigureRows);
 BENCHMARK_CAPTURE(ReadPeer, whole, Peers::ReadWhole)->Apply(Passes::ConfigureRows);
-BENCHMARK(LoadLongField)->Apply(Passes::ConfigureBytes);
-BENCHMARK_CAPTURE(Save, dat, clsDatFile::fmtDat)->Apply(Passes::ConfigureRows);
-BENCHMARK_CAPTURE(Save, csv, clsDatFile::fmtCsv)->Apply(Passes::ConfigureRows);
-BENCHMARK_CAPTURE(Save, csvh, clsDatFile::fmtCsvWithHeaders)->Apply(Passes::ConfigureRows);
-BENCHMARK_CAPTURE(AppSave, dat, clsDatFile::fmtDat)->Apply(Passes::ConfigureRows);
-BENCHMARK_CAPTURE(AppSave, csv, clsDatFile::fmtCsv)->Apply(Passes::ConfigureRows);
-BENCHMARK_CAPTURE(AppSave, csvh, clsDatFile::fmtCsvWithHeaders)->Apply(Passes::ConfigureRows);
+BENCHMARK_CAPTURE(Save, dat, dat, Tables::Limit)->Apply(Passes::ConfigureRows);
+BENCHMARK_CAPTURE(Save, csv, csv, Tables::Limit)->Apply(Passes::ConfigureRows);
+BENCHMARK_CAPTURE(Save, csvh, csvh, Tables::Limit)->Apply(Passes::ConfigureRows);
+BENCHMARK_CAPTURE(Save, field, dat, Tables::LongField)->Name("SaveLongField")->Apply(Passes::ConfigureBytes);
+BENCHMARK_CAPTURE(AppSave, dat, dat)->Apply(Passes::ConfigureRows);
+BENCHMARK_CAPTURE(AppSave, csv, csv)->Apply(Passes::ConfigureRows);
+BENCHMARK_CAPTURE(AppSave, csvh, csvh)->Apply(Passes::ConfigureRows);
 BENCHMARK_CAPTURE(WritePeer, libcsv_fwrite, Peers::WriteByLibcsvFwrite)->Apply(Passes::ConfigureRows);
 BENCHMARK_CAPTURE(WritePeer, libcsv_write, Peers::WriteByLibcsvWrite)->Apply(Passes::ConfigureRows);
 BENCHMARK_CAPTURE(WritePeer, blocks, Peers::QuoteInBlocks)->Apply(Passes::ConfigureRows);
 BENCHMARK(PlainWrite)->Name("WritePeer/plain")->Apply(Passes::ConfigureRows);
-BENCHMARK(SaveLongField)->Apply(Passes::ConfigureBytes);

@@ -27,7 +27,7 @@ void Act(benchmark::State &pState, Step pBefore, Step pAct, Step pAfter) {
     constexpr int places = 16;
     const int rows = static_cast<int>(pState.range(0));
     Editor editor(clsDatFile::fmtDat);
-    editor.form.AppCmd("open", {Tables::TableFile(clsDatFile::fmtDat, rows)});
+    editor.form.AppCmd("open", {Tables::File(clsDatFile::fmtDat, Tables::Limit(rows))});
     int acts = 0;
     for (auto _ : pState) {
         const int row = 2 + acts++ % places * (rows - 3) / (places - 1); // neither the first nor the last
@@ -40,36 +40,19 @@ void Act(benchmark::State &pState, Step pBefore, Step pAct, Step pAfter) {
     }
 }
 
-/// A list on a form of its own.
-struct List {
-    NoDesktop desktop;
-    Runtime runtime{desktop, {}, ""};
-    clsListViewRpt report;
-};
-
-/// Puts cells into the list, as a table is shown.
+/// Puts the cells into the list, as a table is shown.
 void FillList(benchmark::State &pState) {
-    const Tables::Cells cells = Tables::LimitCells(pState.range(0));
-    const auto prepare = [] {
-        auto list = std::make_unique<List>();
-        list->report.LV(list->runtime.NewForm("form").Add<ListView>("list"));
-        list->report.Headers(Tables::Titles(Tables::limitCols));
-        return list;
-    };
-    const auto fill = [&](const std::unique_ptr<List> &pList) {
-        std::int16_t row = 0;
-        for (const Tables::Row &texts : cells) {
-            pList->report.AddRow();
-            std::int16_t col = 0;
-            for (const std::string &text : texts) {
-                pList->report.Data(row, col++, text);
-            }
-            ++row;
+    const Tables::Cells cells = Tables::Limit(pState.range(0));
+    const auto fill = [&](auto &pEditor) {
+        clsListViewRpt report;
+        report.LV(pEditor->form.ListView1);
+        for (const Tables::Row &row : cells) {
+            report.AddRow(TextRow(row));
         }
     };
-    Passes::Measure(pState, prepare, fill, [&](const std::unique_ptr<List> &pList) {
-        return std::cmp_equal(pList->report.Rows(), cells.size());
-    });
+    Passes::Measure(
+        pState, [] { return std::make_unique<Editor>(clsDatFile::fmtDat); }, fill,
+        [&](auto &pEditor) { return std::cmp_equal(pEditor->Rows().Count(), cells.size()); });
 }
 
 void Configure(Passes::Benchmark *pBenchmark) {

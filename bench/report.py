@@ -15,196 +15,163 @@ import re
 import statistics
 import sys
 
-LIMIT = "rows:32767"
-LINEAR, FLAT = "<= 1.15", "<= 0.1"  # the highest powers that count as such; caches add to the true one
-SECONDS = {"ns": 1e-9, "us": 1e-6, "ms": 1e-3, "s": 1}
 FORMS = {"dat": ".dat", "csv": ".csv", "csvh": ".csv with header"}
-READERS = {  # peer: its title, how many times as fast as it the program has to be
-    "ReadPeer/libcsv": ("libcsv, cells kept", ">= 4"),
-    "ReadPeer/libcsv_room": ("libcsv, rows with room", "-"),
-    "ReadPeer/references": ("bare reference loop", ">= 0.7"),
-    "ReadPeer/getline": ("getline", "-"),
-    "ReadPeer/whole": ("reading alone", "-"),
-}
-WRITERS = {
-    "WritePeer/libcsv_fwrite": ("libcsv, csv_fwrite2", ">= 2.5"),
-    "WritePeer/libcsv_write": ("libcsv, csv_write2", ">= 2.5"),
-    "WritePeer/blocks": ("quoting in blocks", "-"),
-}
-WAITS = ("Complete/", "FindNothing/", "Leave/")
-WINDOW_GOALS = {  # how many times as long as the floor the program may take, by table
-    "start": {"typical": "<= 1.2 x floor", "limit": "<= 2.2 x floor"},
-    "down": {"limit": "<= 3 x floor"},
-    "page down": {"typical": "<= 1.3 x floor", "limit": "<= 1.3 x floor"},
-    "resize": {"typical": "<= 1.3 x floor", "limit": "<= 1.3 x floor"},
-    "letter": {"typical": "<= 1.5 x floor", "limit": "<= 1.5 x floor"},
-}
+# What is compared at the largest size: what, its benchmark, the title of the other and its benchmark, the goal. The
+# ratio is how many times as fast as the other it is, or how many times as long it takes where the goal says "<=".
+COMPARED = (
+    ("Load", "Load/%s", "libcsv, cells kept", "ReadPeer/libcsv", ">= 4"),
+    ("Load", "Load/%s", "libcsv, rows with room", "ReadPeer/libcsv_room", "-"),
+    ("Load", "Load/%s", "bare reference loop", "ReadPeer/references", ">= 0.7"),
+    ("Load", "Load/%s", "getline", "ReadPeer/getline", "-"),
+    ("Load", "Load/%s", "reading alone", "ReadPeer/whole", "-"),
+    ("AppOpen", "AppOpen/%s", "Load", "Load/%s", "<= 1.5"),
+    ("Save", "Save/%s", "libcsv, csv_fwrite2", "WritePeer/libcsv_fwrite", ">= 2.5"),
+    ("Save", "Save/%s", "libcsv, csv_write2", "WritePeer/libcsv_write", ">= 2.5"),
+    ("Save", "Save/%s", "quoting in blocks", "WritePeer/blocks", "-"),
+    ("Save", "Save/%s", "plain write", "WritePeer/plain", "<= 3"),
+    ("AppSave", "AppSave/%s", "Save", "Save/%s", "<= 1.5"),
+)
+MEMORY = (  # what, its benchmark and the counter, the goal for its megabytes
+    ("Load %s, memory kept", "Load/%s", "kept_MB", "-"),
+    ("AppOpen %s, memory kept", "AppOpen/%s", "kept_MB", "-"),
+    ("Save %s, memory beside", "Save/%s", "extra_MB", "<= 10"),
+    ("AppSave %s, memory beside", "AppSave/%s", "extra_MB", "-"),
+)
+FLAT, LINEAR = "<= 0.1", "<= 1.15"  # the highest powers that count as such; caches add to the true one
+WINDOW_TIMES = (  # name, the goals for the typical and the limit table
+    ("start", "<= 1.2 x floor", "<= 2.2 x floor"),
+    ("down", "-", "<= 3 x floor"),
+    ("page down", "<= 1.3 x floor", "<= 1.3 x floor"),
+    ("resize", "<= 1.3 x floor", "<= 1.3 x floor"),
+    ("letter", "<= 1.5 x floor", "<= 1.5 x floor"),
+)
 WINDOW_EDITS = ("update", "move down", "move up", "delete", "add")
-WINDOW_MEMORY = (  # Its ratio is what the program has beyond the floor to the size of the file.
+WINDOW_MEMORY = (  # table, name, title, the goal for what the program has beyond the floor
     ("typical", "memory", "peak memory at start", "-"),
     ("limit", "memory", "peak memory at start", "-"),
     ("limit", "memory after saving", "peak memory with edits and saving", "<= 2 x file, beyond floor"),
 )
 
 
-class Results:
-    """The times in seconds and the counters of the benchmarks, by name and size such as "Load/dat", "rows:2048"."""
-
-    def __init__(self, folder):
-        self.times = {}
-        self.counters = {}
-        for path in glob.glob(os.path.join(folder, "*_bench.json")):
-            with open(path, encoding="utf-8") as file:
-                for run in json.load(file)["benchmarks"]:
-                    self._take(run)
-
-    def _take(self, run):
-        if run["run_type"] != "iteration":
-            return
-        if run.get("error_occurred"):
-            sys.exit("report: %s: %s" % (run["name"], run["error_message"]))
-        key = re.match(r"([^:]+)/(\w+:\d+)", run["run_name"]).groups()
-        self.times.setdefault(key, []).append(run["real_time"] * SECONDS[run["time_unit"]])
-        for counter in ("extra_MB", "kept_MB"):
-            self.counters.setdefault((*key, counter), []).append(run.get(counter, math.nan))
-
-    def least(self, name, size=LIMIT):
-        return min(self.times[name, size])
-
-    def shown(self, name, size=LIMIT):
-        times = self.times[name, size]
-        unit = "ms" if min(times) >= 1e-4 else "us"
-        return "%.4g [%.4g] %s" % (min(times) / SECONDS[unit], statistics.median(times) / SECONDS[unit], unit)
-
-    def names(self):
-        return sorted({name for name, _ in self.times})
-
-    def sizes(self, name):
-        return sorted((size for one, size in self.times if one == name), key=lambda size: int(size.split(":")[1]))
-
-    def power(self, name):
-        sizes = self.sizes(name)
-        numbers = [math.log(int(size.split(":")[1])) for size in sizes]
-        return statistics.linear_regression(numbers, [math.log(self.least(name, size)) for size in sizes]).slope
-
-
 def line(what, figure, title="-", other="-", ratio=None, goal="-"):
     """A goal begins with what the ratio may be at most or least, such as "<= 1.2 x floor"."""
     met = "-"
-    if goal != "-" and not math.isnan(ratio):  # Not every system says how much memory is in use.
+    if goal != "-":
         sign, number = goal.split()[:2]
         met = "yes" if (ratio <= float(number) if sign == "<=" else ratio >= float(number)) else "NO"
     return what, figure, title, other, "-" if ratio is None else "%.2f" % ratio, goal, met
 
 
-def faster(results, what, mine, peers):
-    """How many times as fast as each of the peers."""
-    for peer, (title, goal) in peers.items():
-        ratio = results.least(peer) / results.least(mine)
-        yield line(what, results.shown(mine), title, results.shown(peer), ratio, goal)
+def milliseconds(values):
+    return "%.4g ms" % statistics.median(values)
 
 
-def against(results, what, mine, title, peer, goal="-", size=LIMIT):
-    """How many times as long as the peer."""
-    ratio = results.least(mine, size) / results.least(peer, size)
-    return line(what, results.shown(mine, size), title, results.shown(peer, size), ratio, goal)
+def megabytes(values):
+    return "%.4g MB" % statistics.median(values)
 
 
-def memory(results, what, name, counter, file_bytes):
-    used = max(results.counters[name, LIMIT, counter])
-    return line(what, "%.1f MB" % used, "size of the file", "%.1f MB" % (file_bytes / 1e6), used * 1e6 / file_bytes)
+class Results:
+    """What the benchmarks have measured, by a name such as "Load/dat"."""
+
+    def __init__(self, folder):
+        self.times = {}  # in milliseconds, by name and by size, such as 2048
+        self.unit = {}  # of the size, such as "rows", by name
+        self.most = {}  # megabytes, by name and counter
+        for path in glob.glob(os.path.join(folder, "*_bench.json")):
+            with open(path, encoding="utf-8") as file:
+                for run in json.load(file)["benchmarks"]:
+                    if run["run_type"] == "iteration":
+                        self._take(run)
+
+    def _take(self, run):
+        if run.get("error_occurred"):
+            sys.exit("report: %s: %s" % (run["name"], run["error_message"]))
+        name, unit, size = re.match(r"([^:]+)/(\w+):(\d+)", run["run_name"]).groups()
+        self.unit[name] = unit
+        self.times.setdefault(name, {}).setdefault(int(size), []).append(run["real_time"])
+        for counter in ("extra_MB", "kept_MB"):
+            self.most[name, counter] = max(run.get(counter, 0), self.most.get((name, counter), 0))
+
+    def compare(self, what, mine, title, other, goal="-"):
+        times, others = (self.times[name][max(self.times[name])] for name in (mine, other))
+        ratio = min(times) / min(others) if goal.startswith("<=") else min(others) / min(times)
+        return line(what, self.shown(times), title, self.shown(others), ratio, goal)
+
+    @staticmethod
+    def shown(times):
+        scale, unit = (1, "ms") if min(times) >= 0.1 else (1000, "us")
+        return "%.4g [%.4g] %s" % (min(times) * scale, statistics.median(times) * scale, unit)
+
+    def growth(self, name, goal):
+        sizes = sorted(self.times[name])
+        logarithms = [[math.log(size), math.log(min(self.times[name][size]))] for size in sizes]
+        power = statistics.linear_regression(*zip(*logarithms)).slope
+        return line(name.removeprefix("Act/") + ", growth", self.shown(self.times[name][sizes[-1]]),
+                    "flat" if goal == FLAT else "linear", "%s %d-%d" % (self.unit[name], sizes[0], sizes[-1]), power, goal)
 
 
-def files(results, file_bytes):
-    for form, title in FORMS.items():
-        load, save, app_open, app_save = (act + form for act in ("Load/", "Save/", "AppOpen/", "AppSave/"))
-        yield from faster(results, "Load " + title, load, READERS)
-        yield against(results, "AppOpen " + title, app_open, "Load", load, "<= 1.5")
-        yield from faster(results, "Save " + title, save, WRITERS)
-        yield against(results, "Save " + title, save, "plain write", "WritePeer/plain", "<= 3")
-        yield against(results, "AppSave " + title, app_save, "Save", save, "<= 1.5")
-        yield memory(results, "Load %s, memory kept" % title, load, "kept_MB", file_bytes)
-        yield memory(results, "AppOpen %s, memory kept" % title, app_open, "kept_MB", file_bytes)
-        used = max(results.counters[save, LIMIT, "extra_MB"])
-        yield line("Save %s, memory beside" % title, "%.1f MB" % used, "megabytes", "-", used, "<= 10")
-        yield memory(results, "AppSave %s, memory beside" % title, app_save, "extra_MB", file_bytes)
-
-
-def waits(results):
-    size = "entries:10000"
-    for name in results.names():
-        if name.startswith(WAITS):
-            milliseconds = results.least(name, size) * 1e3
-            yield line(name + ", 10,000 entries", results.shown(name, size), "milliseconds", "-", milliseconds, "<= 5")
-
-
-def growth(results):
-    for name in results.names():
-        power, sizes = results.power(name), results.sizes(name)
-        shown = "%s %s-%s" % (*sizes[0].split(":"), sizes[-1].split(":")[1])
-        if name.startswith("Act/"):
-            what = name.removeprefix("Act/") + ", growth"
-            yield line(what, results.shown(name), "flat", shown, power, FLAT)
-        elif not name.startswith(("ReadPeer/", "WritePeer/")):
-            yield line(name + ", growth", "size^%.2f" % power, "linear", shown, power, LINEAR)
-
-
-def benchmarks(folder, file_bytes):
+def benchmarks(folder, file_megabytes):
     results = Results(folder)
-    yield from files(results, file_bytes)
-    yield against(results, "GetWords/plain, 10 MB", "GetWords/plain", "quoted cells", "GetWords/fields",
-                  size="bytes:10000000")
-    yield from waits(results)
-    yield from growth(results)
+    for form, title in FORMS.items():
+        for what, mine, other_title, other, goal in COMPARED:
+            yield results.compare(what + " " + title, mine.replace("%s", form), other_title,
+                                  other.replace("%s", form), goal)
+        for what, name, counter, goal in MEMORY:
+            used = results.most[name % form, counter]
+            other = ("megabytes", "-", used) if goal != "-" else (
+                "size of the file", "%.4g MB" % file_megabytes, used / file_megabytes)
+            yield line(what % title, "%.1f MB" % used, *other, goal)
+    yield results.compare("Words of plain cells", "GetWords/plain", "quoted cells", "GetWords/fields")
+    for name in sorted(results.times):
+        if name.startswith(("Complete/", "FindNothing/", "Leave/")):
+            times = results.times[name][10_000]
+            yield line(name + ", 10,000 entries", results.shown(times), "milliseconds", "-", min(times), "<= 5")
+    for name in sorted(results.times):
+        if not name.startswith(("ReadPeer/", "WritePeer/")):
+            yield results.growth(name, FLAT if name.startswith("Act/") else LINEAR)
 
 
-def instructions(folder, bytes_of):
+def instructions(folder, tables):
     for path in sorted(glob.glob(os.path.join(folder, "*.callgrind"))):
         act, table = os.path.basename(path).removesuffix(".callgrind").split("-")
         with open(path, encoding="utf-8", errors="replace") as file:
             count = int(re.search(r"^(?:summary|totals): (\d+)", file.read(), re.MULTILINE).group(1))
         what = "%s %s, whole process" % ({"load": "load", "save": "load and save"}[act], table)
-        yield line(what, "%.2f M instr." % (count / 1e6), "bytes of the file", "%d" % bytes_of[table],
-                   count / bytes_of[table])
+        yield line(what, "%.2f M instr." % (count / 1e6), "bytes of the file", "%d" % tables[table],
+                   count / tables[table])
 
 
-def ratio_of(values, others):
-    return statistics.median(one / other for one, other in zip(values, others))
-
-
-def milliseconds(values):
-    return "%.4g ms" % (statistics.median(values) * 1e3)
-
-
-def window(rounds, bytes_of):
+def window(rounds, tables):
     """What window_times.py has measured. Ratios are formed round by round."""
-    def column(table, side, name):
-        return [one[table + side][name] for one in rounds]
+    def column(key, name, scale):
+        return [one[key][name] * scale for one in rounds]
 
-    for name, goals in WINDOW_GOALS.items():
-        for table in bytes_of:
-            program, floor = column(table, "/program", name), column(table, "/floor", name)
-            yield line("Window: %s, %s" % (name, table), milliseconds(program), "floor", milliseconds(floor),
-                       ratio_of(program, floor), goals.get(table, "-"))
+    def compare(what, shown, values, title, others, goal):
+        ratio = statistics.median(one / other for one, other in zip(values, others))
+        return line("Window: " + what, shown(values), title, shown(others), ratio, goal)
+
+    for name, *goals in WINDOW_TIMES:
+        for table, goal in zip(tables, goals):
+            program, floor = (column(table + side, name, 1e3) for side in ("/program", "/floor"))
+            yield compare("%s, %s" % (name, table), milliseconds, program, "floor", floor, goal)
     if "update" not in rounds[0]["limit/program"]:
         return  # The floor stood in the program's place.
     for name in WINDOW_EDITS:
-        typical, limit = (column(table, "/program", name) for table in ("typical", "limit"))
+        typical, limit = (column(table + "/program", name, 1e3) for table in tables)
         for table, times in (("typical", typical), ("limit", limit)):
             yield line("Window: %s, %s" % (name, table), milliseconds(times), "milliseconds", "-",
-                       statistics.median(times) * 1e3, "<= 16")
-        yield line("Window: %s, limit" % name, milliseconds(limit), "typical", milliseconds(typical),
-                   ratio_of(limit, typical), "<= 2 x typical")
+                       statistics.median(times), "<= 16")
+        yield compare(name + ", limit", milliseconds, limit, "typical", typical, "<= 2 x typical")
     for table, name, title, goal in WINDOW_MEMORY:
-        program, floor = column(table, "/program", name), column(table, "/floor", "memory")
-        beyond = [one - least for one, least in zip(program, floor)]
-        yield line("Window: %s, %s" % (title, table), "%.4g MB" % (statistics.median(program) / 1e6), "floor",
-                   "%.4g MB" % (statistics.median(floor) / 1e6), statistics.median(beyond) / bytes_of[table], goal)
+        program, floor = column(table + "/program", name, 1e-6), column(table + "/floor", "memory", 1e-6)
+        beyond = statistics.median(one - least for one, least in zip(program, floor))
+        yield line("Window: %s, %s" % (title, table), megabytes(program), "floor", megabytes(floor),
+                   beyond * 1e6 / tables[table], goal)
 
 
 def machine():
     with open("/proc/cpuinfo", encoding="utf-8") as file:
-        model = re.search(r"model name\s*: (.*)|$", file.read()).group(1) or "unknown"
+        model = re.search(r"model name\s*: (.*)|$", file.read()).group(1)
     memory = os.sysconf("SC_PAGE_SIZE") * os.sysconf("SC_PHYS_PAGES")
     return "%d cores, %s, %.1f GB of memory" % (os.cpu_count(), model, memory / 1e9)
 
@@ -212,13 +179,13 @@ def machine():
 def main():
     if len(sys.argv) != 3:
         sys.exit(__doc__)
-    folder, tables = sys.argv[1:]
-    bytes_of = {table: os.path.getsize(os.path.join(tables, table + ".dat")) for table in ("typical", "limit")}
+    folder, tables_folder = sys.argv[1:]
+    tables = {name: os.path.getsize(os.path.join(tables_folder, name + ".dat")) for name in ("typical", "limit")}
     lines = [("", "figure", "compared with", "its figure", "ratio", "goal", "met"),
-             *benchmarks(folder, bytes_of["limit"]), *instructions(folder, bytes_of)]
+             *benchmarks(folder, tables["limit"] / 1e6), *instructions(folder, tables)]
     if os.path.exists(os.path.join(folder, "window.json")):
         with open(os.path.join(folder, "window.json"), encoding="utf-8") as file:
-            lines += window(json.load(file), bytes_of)
+            lines += window(json.load(file), tables)
     widths = [max(map(len, column)) for column in zip(*lines)]
     print("Machine: " + machine())
     print("Times are the least of several passes, the median in brackets; the window's are medians")

@@ -9,12 +9,17 @@
 #include "platform/Runtime.h"
 
 #include <cstdio>
+#include <fstream>
 
 namespace {
 
+void Write(const std::string &pFile, Tables::Cells pCells) {
+    std::ofstream(pFile, std::ios::binary) << Tables::FileText(clsDatFile::fmtDat, pCells);
+}
+
 void Make(const std::string &pFile, int pRows, int pCols) {
-    Tables::Write(pFile + ".dat", Tables::FileText(clsDatFile::fmtDat, Tables::MakeCells(pRows, pCols)));
-    Tables::Write(pFile + "-spec.dat", Tables::FileText(clsDatFile::fmtDat, Tables::Specification(pCols)));
+    Write(pFile + ".dat", Tables::Make(pRows, pCols));
+    Write(pFile + "-spec.dat", Tables::Specification(pCols));
 }
 
 /// pCopy: none if empty.
@@ -36,16 +41,14 @@ int LoadAndSave(const std::string &pFile, const std::string &pCopy) {
 
 int main(int argc, char **argv) {
     const std::vector<std::string> words(argv + 1, argv + argc);
-    if (words.size() == 2 && words[0] == "make") {
+    const std::string act = words.empty() ? "" : words[0];
+    if (act == "make" && words.size() == 2) {
         Make(words[1] + "/typical", 500, 6);
         Make(words[1] + "/limit", Tables::limitRows, Tables::limitCols);
         return 0;
     }
-    if (words.size() == 2 && words[0] == "load") {
-        return LoadAndSave(words[1], "");
-    }
-    if (words.size() == 3 && words[0] == "save") {
-        return LoadAndSave(words[1], words[2]);
+    if ((act == "load" && words.size() == 2) || (act == "save" && words.size() == 3)) {
+        return LoadAndSave(words[1], act == "save" ? words[2] : "");
     }
     std::fputs("Usage: table_once make FOLDER | load FILE | save FILE COPY\n", stderr);
     return 1;

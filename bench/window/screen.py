@@ -12,7 +12,6 @@ import time
 
 from Xlib import X, XK, display
 from Xlib.ext import damage
-from Xlib.protocol import event
 
 sys.path.append(os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", ".."))
 
@@ -80,13 +79,6 @@ class Screen:
         number = self._property(self.root, "_NET_ACTIVE_WINDOW")
         return self.display.create_resource_object("window", number) if number else None
 
-    def activate(self, window):
-        number = self.display.intern_atom("_NET_ACTIVE_WINDOW")
-        by_user = 2
-        message = event.ClientMessage(window=window, client_type=number, data=(32, [by_user, 0, 0, 0, 0]))
-        self.root.send_event(message, event_mask=X.SubstructureRedirectMask | X.SubstructureNotifyMask)
-        self.until(lambda: self.active() == window, "the window in front")
-
     def until(self, condition, what):
         end = time.monotonic() + TIMEOUT
         while time.monotonic() < end:
@@ -100,76 +92,54 @@ class Screen:
         """Lets the server and the window manager put away what has ended."""
         time.sleep(1)
 
-    # --- damage
-
-    def _hear(self):
-        """Takes in what has come, each lot with the time before it was read: sorting it out takes a while."""
-        while True:
-            now = time.perf_counter()
-            count = self.display.pending_events()
-            if count == 0:
-                return
-            for _ in range(count):
-                self._take(self.display.next_event(), now)
-
-    def _take(self, one, now):
-        if one.type == self.display.extension_event.DamageNotify:
-            self.damaged[one.drawable.id] = now
-        elif one.type == X.CreateNotify and self._owner(one.window.id) != self.manager:
-            # Before it is shown: nothing of it may be missed.
-            one.window.damage_create(damage.DamageReportRawRectangles)
-            self.display.flush()
-            self.created.add(one.window.id)
-
     def listen(self, seconds):
         """Takes in what the server says. Waits that long for the first of it."""
         if not self.display.pending_events():  # An answer to a request may have brought some along.
             select.select([self.display.fileno()], [], [], max(seconds, 0))
-        self._hear()
-
-    def forget(self):
-        self._hear()
-        self.damaged.clear()
-        self.created.clear()
-
-    # --- the user's hands
-
-    def code(self, name):
-        return self.display.keysym_to_keycode(XK.string_to_keysym(name))
+        now = time.perf_counter()  # To take in the events lasts a while.
+        for _ in range(self.display.pending_events()):
+            one = self.display.next_event()
+            if one.type == self.display.extension_event.DamageNotify:
+                self.damaged[one.drawable.id] = now
+            elif one.type == X.CreateNotify and self._owner(one.window.id) != self.manager:
+                # The window is not shown yet, so none of its damage is missed.
+                one.window.damage_create(damage.DamageReportRawRectangles)
+                self.display.flush()
+                self.created.add(one.window.id)
 
     def fake(self, kind, code=0, x=0, y=0):
         self.display.xtest_fake_input(kind, code, x=x, y=y)
 
-    def stroke(self, name, *held):
-        codes = [self.code(one) for one in (*held, name)]
+    def stroke(self, *names):
+        """Presses keys, such as "Control_L" or "a", and releases them in the opposite order."""
+        codes = [self.display.keysym_to_keycode(XK.string_to_keysym(name) or ord(name)) for name in names]
         for code in codes:
             self.fake(X.KeyPress, code)
         for code in reversed(codes):
             self.fake(X.KeyRelease, code)
 
     def type(self, text):
-        names = {"/": "slash", "-": "minus", ".": "period", "_": "underscore"}
         for letter in text:
-            held = ["Shift_L"] if letter == "_" or letter.isupper() else []
-            self.stroke(names.get(letter, letter), *held)
+            needs_shift = letter == "_" or letter.isupper()
+            self.stroke(*(["Shift_L"] if needs_shift else []), letter)
         self.display.flush()
 
 
 class Started:
-    """A program and its main window, which is moved to x, y once it is there. start_time is from before the process
-    is made to the final picture, in seconds."""
+    """A program and its main window. start_time is from before the process is made to the final picture, in
+    seconds."""
 
-    def __init__(self, screen, words, x, y):
+    def __init__(self, screen, words):
         self.screen = screen
         screen.fake(X.MotionNotify, x=WIDTH - 1, y=HEIGHT - 1)
         screen.display.sync()
-        screen.forget()
+        screen.listen(0)
+        screen.damaged.clear()
+        screen.created.clear()
         begin = time.perf_counter()
         self.process = screen.run(*words)
         self.start_time = self._wait(screen.created, begin, QUIET_AT_START, must_paint=True) - begin
         self.window = screen.until(self._active_of_created, "the window of " + words[0])
-        self.window.configure(x=x, y=y)
-        self.settle()
         place = self.window.get_geometry()
         self.width, self.height = place.width, place.height
         corner = screen.root.translate_coords(self.window, 0, 0)
@@ -220,16 +190,12 @@ class Started:
         self.screen.display.flush()
         return self._wait([self.window.id], begin, QUIET, must_paint=True) - begin
 
-    def activate(self):
-        self.screen.activate(self.window)
-        self.settle()
-
     def time_key(self, name):
         self.screen.stroke(name)
         return self.time()
 
-    def key(self, name, *held):
-        self.screen.stroke(name, *held)
+    def key(self, *names):
+        self.screen.stroke(*names)
         self.settle()
 
     def point(self, x, y):

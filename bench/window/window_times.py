@@ -7,7 +7,6 @@ program. The figures depend on the machine, their ratios hardly. bench/report.py
 PROGRAM is a release build. TABLES_FOLDER is the folder that "table_once make" has filled."""
 
 import argparse
-import contextlib
 import csv
 import json
 import os
@@ -18,15 +17,13 @@ from screen import NotSeen, Screen, Started
 
 SAMPLES = 3  # of an act in each run, after one that warms up; their median counts
 GROWTH = 6  # pixels that one step of a drag adds
-# Places in the main window as it is designed, its menu bar of 19 pixels included.
+# Places in the main window as it is designed, its menu bar included.
 FIRST_ROW, LOWER_ROW, ROWS_AREA = (28, 93), (28, 143), (10, 90, 400, 100)
-ADD, DELETE, MOVE_UP, MOVE_DOWN = (32, 247), (88, 247), (132, 247), (164, 247)
-EDITS = {"update": ADD, "move down": MOVE_DOWN, "move up": MOVE_UP, "delete": DELETE, "add": ADD}
-PLACES = (20, 40), (660, 40), (20, 460), (660, 460)  # of four windows on the screen
+EDITS = {"update": (32, 247), "move down": (164, 247), "move up": (132, 247), "delete": (88, 247), "add": (32, 247)}
 
 
 def words_of(options, table):
-    """The words that start the program and the floor on a table, by the key of each run."""
+    """The words that start the program and the floor on a table."""
     file, specification = (os.path.join(options.tables, table + end) for end in (".dat", "-spec.dat"))
     with open(file, encoding="utf-8") as lines:
         rows = lines.readline().split(",")[0]
@@ -46,26 +43,6 @@ def middle(act, undo=lambda: None):
     return statistics.median(times[1:])
 
 
-# --- Acts. Each leaves the window in the state that the next one needs.
-
-
-def start(screen, words, x, y):
-    run = Started(screen, words, x, y)
-    # Rows draw a grid, so there are two colours at least as soon as rows are there.
-    if run.inks(*ROWS_AREA) < 2:
-        raise NotSeen("no records in the final picture")
-    return run
-
-
-def down(run):
-    run.click(*FIRST_ROW)
-    return middle(lambda: run.time_key("Down"))
-
-
-def page_down(run):
-    return middle(lambda: run.time_key("Next"))
-
-
 def resize(run):
     sizes = [(run.width + GROWTH, run.height + GROWTH), (run.width, run.height)]
 
@@ -75,24 +52,23 @@ def resize(run):
     return middle(step)
 
 
-def letter(run):
-    run.key("Tab")
-    return middle(lambda: run.time_key("x"), lambda: run.key("BackSpace"))
-
-
 def edits(run):
-    """The time of each edit, once. Leaves as many records as there were."""
-    run.click(*LOWER_ROW)
-    return {name: run.time_button(*button) for name, button in EDITS.items()}
+    """The times of the edits. Each series leaves as many records as there were."""
+    times = {name: [] for name in EDITS}
+    for _ in range(1 + SAMPLES):
+        run.click(*LOWER_ROW)
+        for name, button in EDITS.items():
+            times[name].append(run.time_button(*button))
+    return {name: statistics.median(one[1:]) for name, one in times.items()}
 
 
 def save(run):
     """Saves under a new name. Returns the most memory that was in use until then."""
     path = os.path.join(run.screen.folder, "saved.dat")
-    run.key("a", "Alt_L")
+    run.key("Alt_L", "a")
     run.screen.until(lambda: run.screen.active() not in (None, run.window), "the file dialog")
     run.settle()
-    run.key("a", "Control_L")
+    run.key("Control_L", "a")
     run.screen.type(path)
     run.settle()
     run.key("Return")
@@ -103,51 +79,24 @@ def save(run):
     return run.peak_memory()
 
 
-ACTS = {"down": down, "page down": page_down, "resize": resize, "letter": letter}
-
-
-@contextlib.contextmanager
-def named(key, act):
-    """Adds the run and the act to the message about what was not seen."""
-    try:
-        yield
-    except NotSeen as fault:
-        raise NotSeen("%s, %s: %s" % (key, act, fault)) from fault
-
-
-def measure_round(screen, words, editors):
-    """Starts each run of words alone, then all of them. Each act is done in one window after the other, so that what
-    slows the machine for a while slows both sides of a ratio. Returns for each key of words the seconds, or bytes of
-    memory, by name. Only editors can take edits."""
-    runs, values = {}, {}
+def measure(screen, words, takes_edits):
+    """Runs a program once. Returns its seconds, and bytes of memory, by name."""
     screen.rest()
-    for key in words:
-        with named(key, "start"):
-            # A second window would take the focus from the first, which would then paint beside it.
-            run = start(screen, words[key], *PLACES[0])
-            values[key] = {"start": run.start_time, "memory": run.peak_memory()}
-            run.end()
-    for key, place in zip(words, PLACES):
-        with named(key, "start"):
-            runs[key] = start(screen, words[key], *place)
-    for act, measure in ACTS.items():
-        for key, run in runs.items():
-            with named(key, act):
-                run.activate()
-                values[key][act] = measure(run)
-    times = {key: [] for key in editors}
-    for _ in range(1 + SAMPLES):
-        for key in editors:
-            with named(key, "edits"):
-                runs[key].activate()
-                times[key].append(edits(runs[key]))
-    for key in editors:
-        with named(key, "save"):
-            runs[key].activate()
-            values[key]["memory after saving"] = save(runs[key])
-        values[key].update({name: statistics.median(one[name] for one in times[key][1:]) for name in EDITS})
-    for run in runs.values():
-        run.end()
+    run = Started(screen, words)
+    # Rows draw a grid, so there are two colours at least as soon as rows are there.
+    if run.inks(*ROWS_AREA) < 2:
+        raise NotSeen("no records in the final picture")
+    values = {"start": run.start_time, "memory": run.peak_memory()}
+    run.click(*FIRST_ROW)
+    values["down"] = middle(lambda: run.time_key("Down"))
+    values["page down"] = middle(lambda: run.time_key("Next"))
+    values["resize"] = resize(run)
+    run.key("Tab")
+    values["letter"] = middle(lambda: run.time_key("x"), lambda: run.key("BackSpace"))
+    if takes_edits:
+        values.update(edits(run))
+        values["memory after saving"] = save(run)
+    run.end()
     return values
 
 
@@ -160,17 +109,18 @@ def main():
                         help="start the floor in the program's place too, to see how far the ratios can be trusted")
     options = parser.parse_args()
     words = {**words_of(options, "typical"), **words_of(options, "limit")}
-    editors = [] if options.same else ["typical/program", "limit/program"]
     rounds = []
     screen = Screen()
     try:
         for number in range(options.rounds):
             print("round %d of %d" % (number + 1, options.rounds), file=sys.stderr)
+            rounds.append({})
             # In the opposite order each time: to be started first may be a burden or a help.
-            order = sorted(words, reverse=number % 2 == 1)
-            rounds.append(measure_round(screen, {key: words[key] for key in order}, editors))
+            for key in sorted(words, reverse=number % 2 == 1):
+                takes_edits = key.endswith("/program") and not options.same
+                rounds[-1][key] = measure(screen, words[key], takes_edits)
     except NotSeen as fault:
-        sys.exit("window_times: " + str(fault))
+        sys.exit("window_times: %s: %s" % (key, fault))
     finally:
         screen.close()
     with open(options.figures, "w", encoding="utf-8") as file:
