@@ -1,6 +1,5 @@
 #pragma once
-/// The editor without a screen: the main window, loaded for the limit table and ready for the commands and
-/// the acts of a user.
+/// The editor without a screen: the main window, loaded for the limit table and ready for the acts of a user.
 #include "bench/NoDesktop.h"
 #include "bench/Tables.h"
 #include "editor/frmMain.h"
@@ -14,9 +13,12 @@ public:
         form.AppCmd("fmt", {std::to_string(pFmt)});
     }
 
-    const ListItems &Rows() const { return form.ListView1.ListItems; }
-    /// Whether the user was told nothing, since all that is measured should go well.
-    bool IsQuiet() const { return myDesktop.LastMessage().empty(); }
+    void Open(const std::string &pFile) { form.AppCmd("open", {pFile}); }
+    void Save(const std::string &pFile) { form.AppCmd("save", {pFile}); }
+    int Rows() const { return form.ListView1.ListItems.Count(); }
+    TextRow Row(int pRow) const { return form.ListView1.ListItems(pRow).Texts(); }
+    /// The last message: everything that is measured should go well without one.
+    const std::string &Fault() const { return myDesktop.LastMessage(); }
 
 private:
     static std::string SpecFile() {

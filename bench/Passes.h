@@ -2,35 +2,46 @@
 /// Times acts in fresh memory. The program opens a file once in a run, in memory that the process has not
 /// touched yet, and much of what that costs is the system handing over pages. So each pass is timed on its
 /// own; before it, the freed memory of the last one goes back to the system.
-#include "bench/NoDesktop.h"
-#include "platform/Runtime.h"
+#include "bench/Tables.h"
 
 #include <benchmark/benchmark.h>
+#include <malloc.h>
 
 #include <chrono>
-#include <cstdint>
-#include <vector>
+#include <fstream>
+#include <limits>
 
 namespace Passes {
-
-using Clock = std::chrono::steady_clock;
-inline constexpr int warmRepetitions = 5;
-inline constexpr int freshRepetitions = 9;
 
 using Benchmark = benchmark::internal::Benchmark;
 
 /// The seconds that pAct takes.
 template <typename Act> double SecondsOf(Act pAct) {
+    using Clock = std::chrono::steady_clock;
     const Clock::time_point start = Clock::now();
     pAct();
     return std::chrono::duration<double>(Clock::now() - start).count();
 }
 
-/// Gives all freed memory back to the system and begins to measure the peak anew. Returns what the process
-/// holds now in megabytes of 10^6 bytes, or nan when the system can't tell.
-double FreshMemory();
-double KeptMegabytes();
-double PeakMegabytes();
+/// A line of the process's own status in megabytes of 10^6 bytes, such as VmRSS, the memory in use, or VmHWM,
+/// its peak. Not a number when the system can't tell.
+inline double StatusMegabytes(const std::string &pName) {
+    constexpr double megabytesOfKilobyte = 1024 / 1e6;
+    double kilobytes = std::numeric_limits<double>::quiet_NaN();
+    std::ifstream status("/proc/self/status");
+    for (std::string word; status >> word;) {
+        if (word == pName + ":") {
+            status >> kilobytes;
+        }
+    }
+    return kilobytes * megabytesOfKilobyte;
+}
+
+/// Gives all freed memory back to the system and begins to measure the peak anew.
+inline void FreshMemory() {
+    malloc_trim(0);
+    std::ofstream("/proc/self/clear_refs") << "5";
+}
 
 /// Runs pAct on the result of pPrepare, once for each iteration, and times pAct alone. The act has to leave
 /// its result in the subject, so that it is destroyed outside the clock. pIsRight tells whether it is right:
@@ -41,10 +52,11 @@ void Measure(benchmark::State &pState, Prepare pPrepare, Act pAct, IsRight pIsRi
     bool isRight = true;
     for (auto _ : pState) {
         auto subject = pPrepare();
-        const double before = FreshMemory();
+        FreshMemory();
+        const double before = StatusMegabytes("VmRSS");
         pState.SetIterationTime(SecondsOf([&] { pAct(subject); }));
-        pState.counters["extra_MB"] = PeakMegabytes() - before;
-        pState.counters["kept_MB"] = KeptMegabytes() - before;
+        pState.counters["extra_MB"] = StatusMegabytes("VmHWM") - before;
+        pState.counters["kept_MB"] = StatusMegabytes("VmRSS") - before;
         isRight = isRight && pIsRight(subject);
     }
     if (!isRight) {
@@ -52,13 +64,19 @@ void Measure(benchmark::State &pState, Prepare pPrepare, Act pAct, IsRight pIsRi
     }
 }
 
-/// Has a benchmark run at each of the sizes, again and again. The least time counts: everything else that the
+/// Has a benchmark run five times at each of the sizes. The least time counts: everything else that the
 /// machine does only adds. This suits what is done often and so finds its memory warm.
-void Configure(Benchmark *pBenchmark, const char *pSizeName, const std::vector<std::int64_t> &pSizes);
+inline void Configure(Benchmark *pBenchmark, const char *pSizeName, const std::vector<std::int64_t> &pSizes) {
+    pBenchmark->ArgName(pSizeName)->ArgsProduct({pSizes})->Unit(benchmark::kMillisecond);
+    pBenchmark->Repetitions(5)->DisplayAggregatesOnly(true);
+}
 
-/// The same for Measure, in passes of one iteration. Benchmarks of one program can take turns with them (see
+/// The same for Measure: nine passes of one iteration. Benchmarks of one program can take turns with them
+/// (see
 /// --benchmark_enable_random_interleaving).
-void ConfigureRows(Benchmark *pBenchmark);
-void ConfigureBytes(Benchmark *pBenchmark);
+inline void ConfigureRows(Benchmark *pBenchmark) {
+    Configure(pBenchmark, "rows", Tables::rowCounts);
+    pBenchmark->UseManualTime()->Iterations(1)->Repetitions(9);
+}
 
 } // namespace Passes

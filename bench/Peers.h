@@ -1,16 +1,41 @@
 #pragma once
 /// Other ways to read and write a .dat file, with which the program's own is compared on the same bytes. They
 /// go from the least that any program must do to what one does that keeps its cells in the library's strings.
+/// Readers that return rows return the first line as a row, too. As the program does, writers have the system
+/// flush the file to the disk before they close it.
 #include "bench/Tables.h"
 
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
 #include <memory>
-#include <string>
 #include <string_view>
-#include <vector>
+
+#include <csv.h>
+#include <unistd.h>
 
 namespace Peers {
 
-// Readers. Those that return rows return the first line as a row, too.
+inline constexpr std::size_t blockBytes = 65536;
+
+using FilePointer = std::unique_ptr<std::FILE, int (*)(std::FILE *)>;
+
+inline FilePointer Open(const std::string &pFile, const char *pMode) {
+    FilePointer file(std::fopen(pFile.c_str(), pMode), std::fclose);
+    std::setvbuf(file.get(), nullptr, _IOFBF, blockBytes);
+    return file;
+}
+
+inline void Put(const FilePointer &pFile, std::string_view pBytes) {
+    std::fwrite(pBytes.data(), 1, pBytes.size(), pFile.get());
+}
+
+inline void FlushToDisk(const FilePointer &pFile) {
+    std::fflush(pFile.get());
+    fsync(fileno(pFile.get()));
+}
 
 /// The bytes of a file as they were read.
 struct Buffer {
@@ -19,7 +44,13 @@ struct Buffer {
 };
 
 /// The file alone, into memory that nobody has cleared before. No reader can do less.
-Buffer ReadWhole(const std::string &pFile);
+inline Buffer ReadWhole(const std::string &pFile) {
+    const FilePointer file = Open(pFile, "rb");
+    const std::size_t size = std::filesystem::file_size(pFile);
+    Buffer buffer{std::make_unique_for_overwrite<char[]>(size), 0};
+    buffer.size = std::fread(buffer.bytes.get(), 1, size, file.get());
+    return buffer;
+}
 
 /// The cells of a file, kept where they were read.
 struct References {
@@ -29,36 +60,173 @@ struct References {
     };
     Buffer buffer;
     std::vector<Cell> cells;
-
-    Tables::Row Last(std::size_t pCells) const;
 };
+
+/// Takes the field whose opening quote stands at pAt, and moves pAt past its closing quote.
+inline References::Cell TakeField(char *&pAt, const Buffer &pBuffer) {
+    const char *const end = pBuffer.bytes.get() + pBuffer.size;
+    const char *const field = ++pAt;
+    char *to = pAt;
+    for (;;) {
+        auto *quote = static_cast<char *>(std::memchr(pAt, '"', static_cast<std::size_t>(end - pAt)));
+        const auto length = static_cast<std::size_t>(quote - pAt);
+        if (to != pAt) {
+            std::memmove(to, pAt, length);
+        }
+        to += length;
+        pAt = quote + 1;
+        if (*pAt != '"') { // There is a line end at least.
+            return {static_cast<std::uint32_t>(field - pBuffer.bytes.get()),
+                    static_cast<std::uint32_t>(to - field)};
+        }
+        *to++ = *pAt++;
+    }
+}
 
 /// The bare loop: reads the file whole, looks for quotes by memchr, makes doubled quotes single in place and
 /// keeps 8 bytes for each cell. It checks nothing and takes only what the tables here hold.
-References SplitIntoReferences(const std::string &pFile);
+inline References SplitIntoReferences(const std::string &pFile) {
+    constexpr std::size_t lineEnd = 2; // CR LF
+    constexpr int decimal = 10;
+    References result{ReadWhole(pFile), {}};
+    char *at = result.buffer.bytes.get();
+    const char *const end = at + result.buffer.size;
+    const std::size_t rows = std::strtoul(at, &at, decimal);
+    result.cells.reserve(rows * std::strtoul(at + 1, &at, decimal));
+    at += lineEnd;
+    while (at < end) {
+        result.cells.push_back(TakeField(at, result.buffer));
+        at += *at == ',' ? 1 : lineEnd;
+    }
+    return result;
+}
+
+inline Tables::Row RowOf(const std::string &pLine) {
+    Tables::Row row(1);
+    bool isInQuotes = false;
+    char before = ',';
+    for (const char character : pLine) {
+        if (character == '"') {
+            row.back().append(!isInQuotes && before == '"' ? 1 : 0, '"');
+            isInQuotes = !isInQuotes;
+        } else if (character == ',' && !isInQuotes) {
+            row.emplace_back();
+        } else if (character != '\r') {
+            row.back() += character;
+        }
+        before = character;
+    }
+    return row;
+}
 
 /// The first idea that comes to mind: std::getline, and a vector of strings for each row.
-std::vector<Tables::Row> ReadByGetline(const std::string &pFile);
+inline std::vector<Tables::Row> ReadByGetline(const std::string &pFile) {
+    std::vector<Tables::Row> rows;
+    std::ifstream file(pFile, std::ios::binary);
+    for (std::string line; std::getline(file, line);) {
+        rows.push_back(RowOf(line));
+    }
+    return rows;
+}
+
+/// What libcsv has found so far.
+struct Collector {
+    bool makesRoom;
+    std::vector<Tables::Row> rows;
+    Tables::Row row;
+};
+
+inline void TakeLibcsvField(void *pText, std::size_t pLength, void *pCollector) {
+    static_cast<Collector *>(pCollector)->row.emplace_back(static_cast<const char *>(pText), pLength);
+}
+
+inline void TakeLibcsvRow(int /*pCharacter*/, void *pCollector) {
+    auto &collector = *static_cast<Collector *>(pCollector);
+    const std::size_t room = collector.makesRoom ? collector.row.size() : 0;
+    collector.rows.push_back(std::move(collector.row));
+    collector.row = {};
+    collector.row.reserve(room);
+}
+
+inline std::vector<Tables::Row> Collect(const std::string &pFile, bool pMakesRoom) {
+    const FilePointer file = Open(pFile, "rb");
+    const auto block = std::make_unique_for_overwrite<char[]>(blockBytes);
+    Collector collector{pMakesRoom, {}, {}};
+    csv_parser parser;
+    csv_init(&parser, 0);
+    while (const std::size_t count = std::fread(block.get(), 1, blockBytes, file.get())) {
+        csv_parse(&parser, block.get(), count, TakeLibcsvField, TakeLibcsvRow, &collector);
+    }
+    csv_fini(&parser, TakeLibcsvField, TakeLibcsvRow, &collector);
+    csv_free(&parser);
+    return std::move(collector.rows);
+}
 
 /// libcsv, fed by blocks as its manual has it. Each cell becomes a string in the vector of its row.
-std::vector<Tables::Row> ReadByLibcsv(const std::string &pFile);
+inline std::vector<Tables::Row> ReadByLibcsv(const std::string &pFile) {
+    return Collect(pFile, false);
+}
 
 /// The same, but the vector of each row has room from the start for as many cells as the row before it.
-std::vector<Tables::Row> ReadByLibcsvWithRoom(const std::string &pFile);
-
-// Writers. As the program does, each has the system flush the file to the disk before it closes it.
+inline std::vector<Tables::Row> ReadByLibcsvWithRoom(const std::string &pFile) {
+    return Collect(pFile, true);
+}
 
 /// The finished bytes, in one go. No writer can do less.
-void PlainWrite(const std::string &pFile, std::string_view pBytes);
+inline void PlainWrite(const std::string &pFile, std::string_view pBytes) {
+    const FilePointer file = Open(pFile, "wb");
+    Put(file, pBytes);
+    FlushToDisk(file);
+}
 
 /// Quotes cell after cell into a block, and writes the block when it is full.
-void QuoteInBlocks(const std::string &pFile, Tables::Cells pCells);
+inline void QuoteInBlocks(const std::string &pFile, Tables::Cells pCells) {
+    const FilePointer file = Open(pFile, "wb");
+    std::string block = Tables::SizeLine(pCells);
+    for (const Tables::Row &row : pCells) {
+        Tables::AppendRow(block, row);
+        if (block.size() >= blockBytes) {
+            Put(file, block);
+            block.clear();
+        }
+    }
+    Put(file, block);
+    FlushToDisk(file);
+}
+
+/// Writes the table, each cell by pWriteCell.
+template <typename WriteCell>
+void WriteCells(const std::string &pFile, Tables::Cells pCells, WriteCell pWriteCell) {
+    const FilePointer file = Open(pFile, "wb");
+    Put(file, Tables::SizeLine(pCells));
+    for (const Tables::Row &row : pCells) {
+        for (const std::string &cell : row) {
+            if (&cell != &row.front()) {
+                std::putc(',', file.get());
+            }
+            pWriteCell(file, cell);
+        }
+        Put(file, "\r\n");
+    }
+    FlushToDisk(file);
+}
 
 /// libcsv's writer for files, csv_fwrite2.
-void WriteByLibcsvFwrite(const std::string &pFile, Tables::Cells pCells);
+inline void WriteByLibcsvFwrite(const std::string &pFile, Tables::Cells pCells) {
+    WriteCells(pFile, pCells, [](const FilePointer &pTo, const std::string &pCell) {
+        csv_fwrite2(pTo.get(), pCell.data(), pCell.size(), '"');
+    });
+}
 
 /// libcsv's writer for memory, csv_write2, and fwrite. Its manual advises this to those who need to know how
 /// much was written.
-void WriteByLibcsvWrite(const std::string &pFile, Tables::Cells pCells);
+inline void WriteByLibcsvWrite(const std::string &pFile, Tables::Cells pCells) {
+    std::string field;
+    WriteCells(pFile, pCells, [&field](const FilePointer &pTo, const std::string &pCell) {
+        field.resize(2 * pCell.size() + 2); // Each character may be a quote.
+        const std::size_t length = csv_write2(field.data(), field.size(), pCell.data(), pCell.size(), '"');
+        Put(pTo, {field.data(), length});
+    });
+}
 
 } // namespace Peers

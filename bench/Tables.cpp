@@ -53,8 +53,6 @@ void AppendField(std::string &pText, const std::string &pCell) {
 struct Folder {
     Folder() { fs::create_directory(path); }
     ~Folder() { fs::remove_all(path); }
-    Folder(const Folder &) = delete;
-    Folder &operator=(const Folder &) = delete;
 
     const char *wanted = std::getenv("NORVO_BENCH_FOLDER");
     fs::path path = fs::path(wanted ? wanted : "/dev/shm") / ("norvo_bench_" + std::to_string(getpid()));
@@ -90,11 +88,9 @@ Cells Limit(std::int64_t pRows) {
 Cells LongField(std::int64_t pBytes) {
     static std::map<std::int64_t, Row> fields;
     Row &row = fields[pBytes];
-    if (row.empty()) {
-        row = {""};
-        while (std::cmp_less(row[0].size(), pBytes)) {
-            row[0] += "xxxx\"xxx";
-        }
+    row.resize(1);
+    while (std::cmp_less(row[0].size(), pBytes)) {
+        row[0] += "xxxx\"xxx";
     }
     return {&row, 1};
 }

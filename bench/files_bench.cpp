@@ -13,6 +13,7 @@
 #include "bench/Peers.h"
 
 #include <algorithm>
+#include <memory>
 
 namespace {
 
@@ -22,21 +23,40 @@ constexpr std::int16_t dat = clsDatFile::fmtDat;
 constexpr std::int16_t csv = clsDatFile::fmtCsv;
 constexpr std::int16_t csvh = clsDatFile::fmtCsvWithHeaders;
 
-clsDatFile TableOf(const std::string &pFile, std::int16_t pFmt) {
-    static NoDesktop desktop;
-    static const Runtime runtime(desktop, {}, "");
-    clsDatFile table(runtime);
-    table.Fmt(pFmt);
-    table.FileName(pFile);
-    return table;
-}
+/// The program's table alone, with the verbs of the editor.
+class Table {
+public:
+    explicit Table(std::int16_t pFmt) {
+        myTable.Fmt(pFmt);
+        myTable.Headers(Tables::Titles(Tables::limitCols));
+    }
+    void Open(const std::string &pFile) {
+        myTable.FileName(pFile);
+        myTable.Load();
+    }
+    void Save(const std::string &pFile) {
+        myTable.FileName(pFile);
+        myTable.Save();
+    }
+    int Rows() const { return myTable.Rows(); }
+    TextRow Row(int pRow) const { return myTable.Row(static_cast<std::int16_t>(pRow - 1)); }
+    const std::string &Fault() const { return myTable.Fault(); }
+
+private:
+    NoDesktop myDesktop;
+    Runtime myRuntime{myDesktop, {}, ""};
+    clsDatFile myTable{myRuntime};
+};
 
 // Results are compared by their size and their last row.
 
-bool IsLast(int pRow, const TextRow &pTexts, Cells pWanted) {
+template <typename Subject> bool Holds(const std::unique_ptr<Subject> &pSubject, Cells pWanted) {
+    if (!pSubject->Fault().empty() || std::cmp_not_equal(pSubject->Rows(), pWanted.size())) {
+        return false;
+    }
+    const TextRow last = pSubject->Row(pSubject->Rows());
     const TextRow wanted(pWanted.back());
-    return std::cmp_equal(pRow, pWanted.size()) && pTexts.Run() == wanted.Run() &&
-           std::ranges::equal(pTexts.Ends(), wanted.Ends());
+    return last.Run() == wanted.Run() && std::ranges::equal(last.Ends(), wanted.Ends());
 }
 
 bool Holds(const std::vector<Tables::Row> &pRows, Cells pWanted) {
@@ -44,8 +64,9 @@ bool Holds(const std::vector<Tables::Row> &pRows, Cells pWanted) {
 }
 
 bool Holds(const Peers::References &pReferences, Cells pWanted) {
-    const std::size_t cols = pWanted.back().size();
-    return pReferences.cells.size() == pWanted.size() * cols && pReferences.Last(cols) == pWanted.back();
+    const Peers::References::Cell last = pReferences.cells.back();
+    return pReferences.cells.size() == pWanted.size() * pWanted.back().size() &&
+           std::string_view(&pReferences.buffer.bytes[last.at], last.length) == pWanted.back().back();
 }
 
 bool Holds(const Peers::Buffer &pBuffer, Cells pWanted) {
@@ -55,27 +76,13 @@ bool Holds(const Peers::Buffer &pBuffer, Cells pWanted) {
 /// What a benchmark is measured on, by its size.
 using Source = Cells (*)(std::int64_t);
 
-void Load(benchmark::State &pState, std::int16_t pFmt, Source pSource) {
+template <typename Subject> void Read(benchmark::State &pState, std::int16_t pFmt, Source pSource) {
     const Cells cells = pSource(pState.range(0));
     const std::string file = Tables::File(pFmt, cells);
     Passes::Measure(
-        pState, [&] { return TableOf(file, pFmt); }, [](auto &pTable) { pTable.Load(); },
-        [&](auto &pTable) {
-            const auto last = static_cast<std::int16_t>(pTable.Rows() - 1);
-            return IsLast(pTable.Rows(), pTable.Row(last), cells);
-        });
-}
-
-void AppOpen(benchmark::State &pState, std::int16_t pFmt) {
-    const Cells cells = Tables::Limit(pState.range(0));
-    const std::string file = Tables::File(pFmt, cells);
-    Passes::Measure(
-        pState, [&] { return std::make_unique<Editor>(pFmt); },
-        [&](auto &pEditor) { pEditor->form.AppCmd("open", {file}); },
-        [&](auto &pEditor) {
-            const ListItems &rows = pEditor->Rows();
-            return pEditor->IsQuiet() && IsLast(rows.Count(), rows(rows.Count()).Texts(), cells);
-        });
+        pState, [&] { return std::make_unique<Subject>(pFmt); },
+        [&](auto &pSubject) { pSubject->Open(file); },
+        [&](auto &pSubject) { return Holds(pSubject, cells); });
 }
 
 template <typename Result> void ReadPeer(benchmark::State &pState, Result (*pRead)(const std::string &)) {
@@ -86,35 +93,21 @@ template <typename Result> void ReadPeer(benchmark::State &pState, Result (*pRea
         [&](const Result &pResult) { return Holds(pResult, cells); });
 }
 
-void Save(benchmark::State &pState, std::int16_t pFmt, Source pSource) {
+template <typename Subject> void Write(benchmark::State &pState, std::int16_t pFmt, Source pSource) {
     const std::string file = Tables::File(pFmt, pSource(pState.range(0)));
-    const auto prepare = [&] {
-        clsDatFile table = TableOf(file, pFmt);
-        table.Headers(Tables::Titles(Tables::limitCols));
-        table.Load();
-        table.FileName(Tables::FreshCopy());
-        return table;
-    };
-    Passes::Measure(
-        pState, prepare, [](auto &pTable) { pTable.Save(); },
-        [&](auto & /*pTable*/) { return Tables::IsCopyOf(file); });
-}
-
-void AppSave(benchmark::State &pState, std::int16_t pFmt) {
-    const std::string file = Tables::File(pFmt, Tables::Limit(pState.range(0)));
     std::string copy;
     const auto prepare = [&] {
-        auto editor = std::make_unique<Editor>(pFmt);
-        editor->form.AppCmd("open", {file});
+        auto subject = std::make_unique<Subject>(pFmt);
+        subject->Open(file);
         copy = Tables::FreshCopy();
-        return editor;
+        return subject;
     };
     Passes::Measure(
-        pState, prepare, [&](auto &pEditor) { pEditor->form.AppCmd("save", {copy}); },
-        [&](auto &pEditor) { return pEditor->IsQuiet() && Tables::IsCopyOf(file); });
+        pState, prepare, [&](auto &pSubject) { pSubject->Save(copy); },
+        [&](auto &pSubject) { return pSubject->Fault().empty() && Tables::IsCopyOf(file); });
 }
 
-template <typename Write> void MeasureWrite(benchmark::State &pState, Write pWrite) {
+template <typename Act> void MeasureWrite(benchmark::State &pState, Act pWrite) {
     const std::string file = Tables::File(dat, Tables::Limit(pState.range(0)));
     Passes::Measure(pState, Tables::FreshCopy, pWrite,
                     [&](auto & /*pCopy*/) { return Tables::IsCopyOf(file); });
@@ -130,15 +123,25 @@ void PlainWrite(benchmark::State &pState) {
     MeasureWrite(pState, [&](const std::string &pCopy) { Peers::PlainWrite(pCopy, bytes); });
 }
 
+void ConfigureBytes(Passes::Benchmark *pBenchmark) {
+    Passes::Configure(pBenchmark, "bytes", Tables::byteCounts);
+    pBenchmark->UseManualTime()->Iterations(1);
+}
+
+constexpr auto Load = Read<Table>;
+constexpr auto Save = Write<Table>;
+constexpr auto AppOpen = Read<Editor>;
+constexpr auto AppSave = Write<Editor>;
+
 } // namespace
 
 BENCHMARK_CAPTURE(Load, dat, dat, Tables::Limit)->Apply(Passes::ConfigureRows);
 BENCHMARK_CAPTURE(Load, csv, csv, Tables::Limit)->Apply(Passes::ConfigureRows);
 BENCHMARK_CAPTURE(Load, csvh, csvh, Tables::Limit)->Apply(Passes::ConfigureRows);
-BENCHMARK_CAPTURE(Load, field, dat, Tables::LongField)->Name("LoadLongField")->Apply(Passes::ConfigureBytes);
-BENCHMARK_CAPTURE(AppOpen, dat, dat)->Apply(Passes::ConfigureRows);
-BENCHMARK_CAPTURE(AppOpen, csv, csv)->Apply(Passes::ConfigureRows);
-BENCHMARK_CAPTURE(AppOpen, csvh, csvh)->Apply(Passes::ConfigureRows);
+BENCHMARK_CAPTURE(Load, field, dat, Tables::LongField)->Name("LoadLongField")->Apply(ConfigureBytes);
+BENCHMARK_CAPTURE(AppOpen, dat, dat, Tables::Limit)->Apply(Passes::ConfigureRows);
+BENCHMARK_CAPTURE(AppOpen, csv, csv, Tables::Limit)->Apply(Passes::ConfigureRows);
+BENCHMARK_CAPTURE(AppOpen, csvh, csvh, Tables::Limit)->Apply(Passes::ConfigureRows);
 BENCHMARK_CAPTURE(ReadPeer, libcsv, Peers::ReadByLibcsv)->Apply(Passes::ConfigureRows);
 BENCHMARK_CAPTURE(ReadPeer, libcsv_room, Peers::ReadByLibcsvWithRoom)->Apply(Passes::ConfigureRows);
 BENCHMARK_CAPTURE(ReadPeer, getline, Peers::ReadByGetline)->Apply(Passes::ConfigureRows);
@@ -147,10 +150,10 @@ BENCHMARK_CAPTURE(ReadPeer, whole, Peers::ReadWhole)->Apply(Passes::ConfigureRow
 BENCHMARK_CAPTURE(Save, dat, dat, Tables::Limit)->Apply(Passes::ConfigureRows);
 BENCHMARK_CAPTURE(Save, csv, csv, Tables::Limit)->Apply(Passes::ConfigureRows);
 BENCHMARK_CAPTURE(Save, csvh, csvh, Tables::Limit)->Apply(Passes::ConfigureRows);
-BENCHMARK_CAPTURE(Save, field, dat, Tables::LongField)->Name("SaveLongField")->Apply(Passes::ConfigureBytes);
-BENCHMARK_CAPTURE(AppSave, dat, dat)->Apply(Passes::ConfigureRows);
-BENCHMARK_CAPTURE(AppSave, csv, csv)->Apply(Passes::ConfigureRows);
-BENCHMARK_CAPTURE(AppSave, csvh, csvh)->Apply(Passes::ConfigureRows);
+BENCHMARK_CAPTURE(Save, field, dat, Tables::LongField)->Name("SaveLongField")->Apply(ConfigureBytes);
+BENCHMARK_CAPTURE(AppSave, dat, dat, Tables::Limit)->Apply(Passes::ConfigureRows);
+BENCHMARK_CAPTURE(AppSave, csv, csv, Tables::Limit)->Apply(Passes::ConfigureRows);
+BENCHMARK_CAPTURE(AppSave, csvh, csvh, Tables::Limit)->Apply(Passes::ConfigureRows);
 BENCHMARK_CAPTURE(WritePeer, libcsv_fwrite, Peers::WriteByLibcsvFwrite)->Apply(Passes::ConfigureRows);
 BENCHMARK_CAPTURE(WritePeer, libcsv_write, Peers::WriteByLibcsvWrite)->Apply(Passes::ConfigureRows);
 BENCHMARK_CAPTURE(WritePeer, blocks, Peers::QuoteInBlocks)->Apply(Passes::ConfigureRows);

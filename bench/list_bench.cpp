@@ -27,7 +27,7 @@ void Act(benchmark::State &pState, Step pBefore, Step pAct, Step pAfter) {
     constexpr int places = 16;
     const int rows = static_cast<int>(pState.range(0));
     Editor editor(clsDatFile::fmtDat);
-    editor.form.AppCmd("open", {Tables::File(clsDatFile::fmtDat, Tables::Limit(rows))});
+    editor.Open(Tables::File(clsDatFile::fmtDat, Tables::Limit(rows)));
     int acts = 0;
     for (auto _ : pState) {
         const int row = 2 + acts++ % places * (rows - 3) / (places - 1); // neither the first nor the last
@@ -35,7 +35,7 @@ void Act(benchmark::State &pState, Step pBefore, Step pAct, Step pAfter) {
         pState.SetIterationTime(Passes::SecondsOf([&] { pAct(editor.form, row); }));
         pAfter(editor.form, row);
     }
-    if (editor.Rows().Count() != rows || !editor.IsQuiet()) {
+    if (editor.Rows() != rows || !editor.Fault().empty()) {
         pState.SkipWithError("The list has grown or shrunk, or there was a message.");
     }
 }
@@ -52,13 +52,13 @@ void FillList(benchmark::State &pState) {
     };
     Passes::Measure(
         pState, [] { return std::make_unique<Editor>(clsDatFile::fmtDat); }, fill,
-        [&](auto &pEditor) { return std::cmp_equal(pEditor->Rows().Count(), cells.size()); });
+        [&](auto &pEditor) { return std::cmp_equal(pEditor->Rows(), cells.size()); });
 }
 
 void Configure(Passes::Benchmark *pBenchmark) {
     constexpr int acts = 2000;
     Passes::ConfigureRows(pBenchmark);
-    pBenchmark->Iterations(acts)->Repetitions(Passes::warmRepetitions);
+    pBenchmark->Iterations(acts)->Repetitions(5);
 }
 
 } // namespace

@@ -13,13 +13,10 @@
 
 namespace {
 
-void Write(const std::string &pFile, Tables::Cells pCells) {
-    std::ofstream(pFile, std::ios::binary) << Tables::FileText(clsDatFile::fmtDat, pCells);
-}
-
 void Make(const std::string &pFile, int pRows, int pCols) {
-    Write(pFile + ".dat", Tables::Make(pRows, pCols));
-    Write(pFile + "-spec.dat", Tables::Specification(pCols));
+    const auto text = [](Tables::Cells pCells) { return Tables::FileText(clsDatFile::fmtDat, pCells); };
+    std::ofstream(pFile + ".dat", std::ios::binary) << text(Tables::Make(pRows, pCols));
+    std::ofstream(pFile + "-spec.dat", std::ios::binary) << text(Tables::Specification(pCols));
 }
 
 /// pCopy: none if empty.

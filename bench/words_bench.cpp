@@ -1,7 +1,6 @@
 /// The words of one line, from 10 KB to 10 MB, of the kinds of lines that a file can bring. Fields and plain
 /// cells are the same cells, once in quotes and once without.
 #include "bench/Passes.h"
-#include "bench/Tables.h"
 #include "data/modGetWords.h"
 
 namespace {
