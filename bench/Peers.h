@@ -101,30 +101,28 @@ inline References SplitIntoReferences(const std::string &pFile) {
     return result;
 }
 
-inline Tables::Row RowOf(const std::string &pLine) {
-    Tables::Row row(1);
-    bool isInQuotes = false;
-    char before = ',';
-    for (const char character : pLine) {
-        if (character == '"') {
-            row.back().append(!isInQuotes && before == '"' ? 1 : 0, '"');
-            isInQuotes = !isInQuotes;
-        } else if (character == ',' && !isInQuotes) {
-            row.emplace_back();
-        } else if (character != '\r') {
-            row.back() += character;
-        }
-        before = character;
-    }
-    return row;
-}
-
 /// The first idea that comes to mind: std::getline, and a vector of strings for each row.
 inline std::vector<Tables::Row> ReadByGetline(const std::string &pFile) {
     std::vector<Tables::Row> rows;
     std::ifstream file(pFile, std::ios::binary);
     for (std::string line; std::getline(file, line);) {
-        rows.push_back(RowOf(line));
+        Tables::Row &row = rows.emplace_back();
+        std::string cell;
+        bool isInQuotes = false;
+        char before = ',';
+        for (const char character : line) {
+            if (character == '"') {
+                cell.append(!isInQuotes && before == '"' ? 1 : 0, '"');
+                isInQuotes = !isInQuotes;
+            } else if (character == ',' && !isInQuotes) {
+                row.push_back(cell);
+                cell.clear();
+            } else if (character != '\r') {
+                cell += character;
+            }
+            before = character;
+        }
+        row.push_back(cell);
     }
     return rows;
 }
@@ -148,10 +146,12 @@ inline void TakeLibcsvRow(int /*pCharacter*/, void *pCollector) {
     collector.row.reserve(room);
 }
 
-inline std::vector<Tables::Row> Collect(const std::string &pFile, bool pMakesRoom) {
+/// libcsv, fed by blocks as its manual has it. Each cell becomes a string in the vector of its row. With
+/// makesRoom that vector has room from the start for as many cells as the row before it.
+template <bool makesRoom> std::vector<Tables::Row> ReadByLibcsv(const std::string &pFile) {
     const FilePointer file = Open(pFile, "rb");
     const auto block = std::make_unique_for_overwrite<char[]>(blockBytes);
-    Collector collector{pMakesRoom, {}, {}};
+    Collector collector{makesRoom, {}, {}};
     csv_parser parser;
     csv_init(&parser, 0);
     while (const std::size_t count = std::fread(block.get(), 1, blockBytes, file.get())) {
@@ -160,16 +160,6 @@ inline std::vector<Tables::Row> Collect(const std::string &pFile, bool pMakesRoo
     csv_fini(&parser, TakeLibcsvField, TakeLibcsvRow, &collector);
     csv_free(&parser);
     return std::move(collector.rows);
-}
-
-/// libcsv, fed by blocks as its manual has it. Each cell becomes a string in the vector of its row.
-inline std::vector<Tables::Row> ReadByLibcsv(const std::string &pFile) {
-    return Collect(pFile, false);
-}
-
-/// The same, but the vector of each row has room from the start for as many cells as the row before it.
-inline std::vector<Tables::Row> ReadByLibcsvWithRoom(const std::string &pFile) {
-    return Collect(pFile, true);
 }
 
 /// The finished bytes, in one go. No writer can do less.

@@ -142,8 +142,8 @@ BENCHMARK_CAPTURE(Load, field, dat, Tables::LongField)->Name("LoadLongField")->A
 BENCHMARK_CAPTURE(AppOpen, dat, dat, Tables::Limit)->Apply(Passes::ConfigureRows);
 BENCHMARK_CAPTURE(AppOpen, csv, csv, Tables::Limit)->Apply(Passes::ConfigureRows);
 BENCHMARK_CAPTURE(AppOpen, csvh, csvh, Tables::Limit)->Apply(Passes::ConfigureRows);
-BENCHMARK_CAPTURE(ReadPeer, libcsv, Peers::ReadByLibcsv)->Apply(Passes::ConfigureRows);
-BENCHMARK_CAPTURE(ReadPeer, libcsv_room, Peers::ReadByLibcsvWithRoom)->Apply(Passes::ConfigureRows);
+BENCHMARK_CAPTURE(ReadPeer, libcsv, Peers::ReadByLibcsv<false>)->Apply(Passes::ConfigureRows);
+BENCHMARK_CAPTURE(ReadPeer, libcsv_room, Peers::ReadByLibcsv<true>)->Apply(Passes::ConfigureRows);
 BENCHMARK_CAPTURE(ReadPeer, getline, Peers::ReadByGetline)->Apply(Passes::ConfigureRows);
 BENCHMARK_CAPTURE(ReadPeer, references, Peers::SplitIntoReferences)->Apply(Passes::ConfigureRows);
 BENCHMARK_CAPTURE(ReadPeer, whole, Peers::ReadWhole)->Apply(Passes::ConfigureRows);

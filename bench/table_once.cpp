@@ -19,7 +19,7 @@ void Make(const std::string &pFile, int pRows, int pCols) {
     std::ofstream(pFile + "-spec.dat", std::ios::binary) << text(Tables::Specification(pCols));
 }
 
-/// pCopy: none if empty.
+/// Without a second file there is no save.
 int LoadAndSave(const std::string &pFile, const std::string &pCopy) {
     NoDesktop desktop;
     const Runtime runtime(desktop, {}, "");

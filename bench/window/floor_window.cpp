@@ -31,10 +31,11 @@ public:
     int rowCount(const QModelIndex & /*pParent*/ = {}) const override { return myRows; }
     int columnCount(const QModelIndex & /*pParent*/ = {}) const override { return myColumns; }
 
-    /// About as long as the cells of the standard tables are in the mean.
     QVariant data(const QModelIndex &pIndex, int pRole) const override {
-        const bool isText = pRole == Qt::DisplayRole;
-        return isText ? QString::asprintf("r%05d cell%d", pIndex.row(), pIndex.column()) : QVariant();
+        if (pRole != Qt::DisplayRole) {
+            return {};
+        }
+        return QString::asprintf("r%05d cell%d", pIndex.row(), pIndex.column()); // As long as most cells.
     }
 
     QVariant headerData(int pSection, Qt::Orientation /*pOrientation*/, int pRole) const override {

@@ -88,10 +88,6 @@ class Screen:
             time.sleep(0.01)
         raise NotSeen("not seen in %d s: %s" % (TIMEOUT, what))
 
-    def rest(self):
-        """Lets the server and the window manager put away what has ended."""
-        time.sleep(1)
-
     def listen(self, seconds):
         """Takes in what the server says. Waits that long for the first of it."""
         if not self.display.pending_events():  # An answer to a request may have brought some along.

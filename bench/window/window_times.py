@@ -8,10 +8,12 @@ PROGRAM is a release build. TABLES_FOLDER is the folder that "table_once make" h
 
 import argparse
 import csv
+import itertools
 import json
 import os
 import statistics
 import sys
+import time
 
 from screen import NotSeen, Screen, Started
 
@@ -43,15 +45,6 @@ def middle(act, undo=lambda: None):
     return statistics.median(times[1:])
 
 
-def resize(run):
-    sizes = [(run.width + GROWTH, run.height + GROWTH), (run.width, run.height)]
-
-    def step():
-        sizes.reverse()
-        return run.time_size(*sizes[1])
-    return middle(step)
-
-
 def edits(run):
     """The times of the edits. Each series leaves as many records as there were."""
     times = {name: [] for name in EDITS}
@@ -81,7 +74,7 @@ def save(run):
 
 def measure(screen, words, takes_edits):
     """Runs a program once. Returns its seconds, and bytes of memory, by name."""
-    screen.rest()
+    time.sleep(1)  # The server and the window manager put away what has ended.
     run = Started(screen, words)
     # Rows draw a grid, so there are two colours at least as soon as rows are there.
     if run.inks(*ROWS_AREA) < 2:
@@ -90,7 +83,8 @@ def measure(screen, words, takes_edits):
     run.click(*FIRST_ROW)
     values["down"] = middle(lambda: run.time_key("Down"))
     values["page down"] = middle(lambda: run.time_key("Next"))
-    values["resize"] = resize(run)
+    sizes = itertools.cycle([(run.width + GROWTH, run.height + GROWTH), (run.width, run.height)])
+    values["resize"] = middle(lambda: run.time_size(*next(sizes)))
     run.key("Tab")
     values["letter"] = middle(lambda: run.time_key("x"), lambda: run.key("BackSpace"))
     if takes_edits:
