@@ -3,7 +3,6 @@
 #include "fuzz/FuzzSupport.h"
 
 #include <algorithm>
-#include <cstdio>
 
 void RequireLaws(std::string_view pBytes) {
     static TableProbe probe;

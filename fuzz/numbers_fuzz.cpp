@@ -3,7 +3,6 @@
 #include "fuzz/FuzzSupport.h"
 #include "text/Numbers.h"
 
-#include <cmath>
 #include <cstring>
 
 namespace {

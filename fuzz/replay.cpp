@@ -2,7 +2,6 @@
 /// mended, with any compiler.
 #include "fuzz/FuzzSupport.h"
 
-#include <cstdio>
 #include <filesystem>
 #include <set>
 
