@@ -1,5 +1,4 @@
-/// The word splitter on any line, against a reading of the same rules that looks ahead, where the splitter
-/// itself goes from character to character.
+/// The word splitter on any line, against a second reading of the same rules.
 #include "data/modGetWords.h"
 #include "fuzz/FuzzSupport.h"
 

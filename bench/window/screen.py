@@ -1,13 +1,11 @@
-"""A screen of its own to measure windows on: an X server, a window manager, and programs whose window is watched
-from outside. What a program paints is told by the server as damage to its window, so that neither its timers nor
-the window manager's decorations are mistaken for it. Needs Debian's python3-xlib and what tools/screen.py needs."""
+"""A screen to measure windows on, and the programs whose windows are watched there from outside. The server reports
+what a program paints as damage to its window, so neither its timers nor the window manager's decorations are mistaken
+for it. Needs Debian's python3-xlib and what tools/screen.py needs."""
 
 import os
 import select
-import shutil
 import subprocess
 import sys
-import tempfile
 import time
 
 from Xlib import X, XK, display
@@ -28,14 +26,15 @@ class NotSeen(Exception):
     """Something that was to be measured did not happen."""
 
 
-class Screen:
+class Screen(tools.screen.Screen):
     def __init__(self):
-        self.folder = tempfile.mkdtemp(prefix="norvo-times-")
-        self.children = []
+        # No bus: the toolkit would start one, which is not the program's time.
+        self.environment = {name: value for name, value in os.environ.items() if not name.startswith(("QT_", "XDG_"))}
+        self.environment.update(QT_QPA_PLATFORM="xcb", DBUS_SESSION_BUS_ADDRESS="disabled:")
+        super().__init__(self.environment)
+        self.environment.update(HOME=self.folder, XDG_RUNTIME_DIR=self.folder)
         self.damaged = {}  # window: when its last damage was heard of
-        self.created = set()  # the programs' windows since the last forget()
-        self._environment()
-        self.server = tools.screen.Screen(self.environment)
+        self.created = set()  # the windows of the program that was started last
         self.display = display.Display(self.environment["DISPLAY"])
         self.display.set_error_handler(lambda *_: None)  # Windows come and go; what's missing is noticed.
         self.display.damage_query_version()
@@ -43,15 +42,9 @@ class Screen:
         self.root.change_attributes(event_mask=X.SubstructureNotifyMask)
         self.manager = self._owner(self._property(self.root, "_NET_SUPPORTING_WM_CHECK"))
 
-    def _environment(self):
-        # An empty home, and no bus: the toolkit would start one, which is not the program's time.
-        kept = {name: value for name, value in os.environ.items() if not name.startswith(("QT_", "XDG_"))}
-        self.environment = dict(kept, HOME=self.folder, XDG_RUNTIME_DIR=self.folder, QT_QPA_PLATFORM="xcb",
-                                DBUS_SESSION_BUS_ADDRESS="disabled:")
-
-    def run(self, *words, **options):
-        child = subprocess.Popen(words, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
-                                 env=self.environment, cwd=self.folder, **options)
+    def run(self, *words):
+        child = subprocess.Popen(words, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, env=self.environment,
+                                 cwd=self.folder)
         self.children.append(child)
         return child
 
@@ -59,12 +52,6 @@ class Screen:
         child.terminate()
         child.wait()
         self.children.remove(child)
-
-    def close(self):
-        for child in reversed(list(self.children)):
-            self.end(child)
-        self.server.close()
-        shutil.rmtree(self.folder, ignore_errors=True)
 
     def _property(self, window, name):
         found = window.get_full_property(self.display.intern_atom(name), X.AnyPropertyType)

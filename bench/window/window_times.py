@@ -104,8 +104,7 @@ def main():
     options = parser.parse_args()
     words = {**words_of(options, "typical"), **words_of(options, "limit")}
     rounds = []
-    screen = Screen()
-    try:
+    with Screen() as screen:
         for number in range(options.rounds):
             print("round %d of %d" % (number + 1, options.rounds), file=sys.stderr)
             rounds.append({})
@@ -113,10 +112,6 @@ def main():
             for key in sorted(words, reverse=number % 2 == 1):
                 takes_edits = key.endswith("/program") and not options.same
                 rounds[-1][key] = measure(screen, words[key], takes_edits)
-    except NotSeen as fault:
-        sys.exit("window_times: %s: %s" % (key, fault))
-    finally:
-        screen.close()
     with open(options.figures, "w", encoding="utf-8") as file:
         json.dump(rounds, file, indent=1)
 
