@@ -106,8 +106,9 @@ class Results:
         sizes = sorted(self.times[name])
         logarithms = [[math.log(size), math.log(min(self.times[name][size]))] for size in sizes]
         power = statistics.linear_regression(*zip(*logarithms)).slope
+        measured = "%s %d-%d" % (self.unit[name], sizes[0], sizes[-1])
         return line(name.removeprefix("Act/") + ", growth", self.shown(self.times[name][sizes[-1]]),
-                    "flat" if goal == FLAT else "linear", "%s %d-%d" % (self.unit[name], sizes[0], sizes[-1]), power, goal)
+                    "flat" if goal == FLAT else "linear", measured, power, goal)
 
 
 def benchmarks(folder, file_megabytes):
