@@ -5,14 +5,9 @@
 
 #include <sstream>
 
-TEST(Fields, TakeTheirNumbersEachInItsOwnWay) {
+TEST(Fields, StandSideBySideAsWideAsTheirColumns) {
     Program program;
-    program.Files().Write("NorvoEditDat.dat", CrLf(R"(4,4
-"","12.5","99999","-"
-"B","12.5","x","--"
-" C ","1e1","-1",""
-"","0","2.5","-"
-)"));
+    program.Files().Write("NorvoEditDat.dat", CrLf("2,4\n\"\",12.5,0,-\n\" B \",0,1,cities.txt\n"));
     std::ostringstream built;
     for (const auto &c : program.Start().Main().Controls()) {
         const auto *const sized = dynamic_cast<const SizedControl *>(c.get());
@@ -23,16 +18,12 @@ TEST(Fields, TakeTheirNumbersEachInItsOwnWay) {
     }
     EXPECT_EQ(built.str(), R"(lbl20 Label 120 120 1070 240 X=0/100 W=13/100
 cbo20 TextBox 120 360 1070 315 X=0/100 W=13/100
-lbl21 Label 1200 120 1070 240 X=12/100 W=13/100
-cbo21 ComboBox 1200 360 1070 315 X=12/100 W=13/100
-lbl22 Label 2280 120 854 240 X=24/100 W=10/100
-cbo22 ComboBox 2280 360 854 315 X=24/100 W=10/100
-lbl23 Label 3144 120 -10 240 X=34/100 W=0/100
-cbo23 TextBox 3144 360 -10 315 X=34/100 W=0/100
+lbl21 Label 1200 120 -10 240 X=12/100 W=0/100
+cbo21 ComboBox 1200 360 -10 315 X=12/100 W=0/100
 )");
     const auto &headers = dynamic_cast<ListView &>(program.Main().Controls("ListView1")).ColumnHeaders;
     EXPECT_FLOAT_EQ(headers(1).Width, 8640 * 0.12F);
-    EXPECT_EQ(headers(3).Text, "C");
+    EXPECT_EQ(headers(2).Text, "B");
 }
 
 TEST(Fields, LookForTheirListInTheCurrentFolderFirst) {
@@ -40,10 +31,14 @@ TEST(Fields, LookForTheirListInTheCurrentFolderFirst) {
     const TemporaryFolder current;
     std::filesystem::current_path(current.Path());
     current.Write("cities.txt", "Oslo, N \r\n\r\n Rom\"e\nX\rOslo, N ");
+    current.Write("kinds.txt", "");
     Program program;
     program.Start();
     std::filesystem::current_path(before);
     const auto &box = dynamic_cast<const ComboBox &>(program.Main().Controls("cbo21"));
     ASSERT_EQ(box.ListCount(), 4);
     EXPECT_EQ(box.List(0) + "/" + box.List(1) + "/" + box.List(2), "Oslo, N // Rom\"e\nX");
+    EXPECT_EQ(box.AccessibleDescription(), "one of the listed values");
+    const auto &empty = dynamic_cast<const ComboBox &>(program.Main().Controls("cbo22"));
+    EXPECT_EQ(empty.AccessibleDescription(), "") << "an empty list takes any text";
 }

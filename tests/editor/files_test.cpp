@@ -35,6 +35,8 @@ TEST(Opening, ShowsTheRecordsOrOneMessage) {
         EXPECT_EQ(program.Choose("FileOpen").Rows(), rows) << bytes;
         EXPECT_EQ(program.Buttons().find("(Save As)") != std::string::npos, *rows == '\0') << bytes;
     }
+    Program titles; // The titles come from the specification, so a file without records fits.
+    EXPECT_EQ(titles.Start("/csvh " + titles.Files().Write("t.csv", "x\r\n")).Rows(), "");
     // A CSV file whose first line has no words ends the program.
     Program csv;
     csv.Script().Expect({"clsDatFile.Cols out of bounds ( 0)", MessageButtons::Ok, "NorvoEditDat"});
@@ -47,6 +49,7 @@ TEST(Opening, TakesANameThatIsNotThereForANewFile) {
     program.Script().ExpectOpen({}); // dismissed
     program.Choose("FileOpen");
     EXPECT_EQ(program.Rows(), "> Ann||\n");
+    EXPECT_EQ(program.Script().Dialogs().back().pattern, "*.dat");
     program.Script().ExpectOpen(program.Files().File("new.dat"));
     program.Choose("FileOpen");
     // No row is selected now, so the update has nowhere to go and the fields keep what they hold.
@@ -74,6 +77,15 @@ TEST(Saving, WritesTheListAndChangesNothingElse) {
     }
     EXPECT_EQ(offered,
               "Data (*.dat)|*.dat|data.dat Data (*.dat)|*.dat|data.dat Data (*.dat)|*.dat|copy.csv ");
+}
+
+TEST(Saving, OffersTheWholePathWhenItsFolderIsGone) {
+    Program program;
+    const std::string name = program.Files().Write("sub/f.dat", "0,3\r\n");
+    program.Start(name).Press("Add");
+    std::filesystem::remove_all(program.Files().File("sub"));
+    program.SaveAs({}); // Elsewhere the bare name would be another file.
+    EXPECT_EQ(program.Script().Dialogs().back().folder + program.Script().Dialogs().back().name, name);
 }
 
 #ifdef __linux__

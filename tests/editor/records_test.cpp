@@ -1,4 +1,5 @@
 // Moving records between the fields and the list, and the buttons that follow from it.
+#include "platform/ListView.h"
 #include "tests/support/Program.h"
 
 TEST(Records, AreAddedUpdatedDeletedAndMoved) {
@@ -46,6 +47,16 @@ Name[Cid] City[] Kind[Banana]
   Dee||
 Add (Move Up) (Delete) (Move Down) Save As Cancel
 )");
+}
+
+TEST(Records, LeaveTheirPlaceToTheNextOne) {
+    Program program;
+    program.StartOn("3,3\na,,\"\"\nb,,\"\"\nc,,\"\"\n");
+    const auto &list = dynamic_cast<const ListView &>(program.Main().Controls("ListView1"));
+    program.Pick(1).Press("Delete");
+    EXPECT_EQ(list.CurrentIndex(), 2);
+    program.Pick(1).Press("Delete");
+    EXPECT_EQ(list.CurrentIndex(), 1) << "the last one leaves it to the one before";
 }
 
 TEST(Records, MayBeTheOnlyOne) {

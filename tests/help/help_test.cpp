@@ -1,4 +1,4 @@
-#include "platform/Controls.h"
+#include "help/frmAbout.h"
 #include "tests/support/Program.h"
 
 TEST(Help, OpensThePageOfTheProgramsOwnNameFirst) {
@@ -13,13 +13,26 @@ TEST(Help, OpensThePageOfTheProgramsOwnNameFirst) {
     EXPECT_EQ(program.Script().Targets(), pages);
 }
 
-TEST(About, ShowsTheVersionRecordInOneBox) {
+TEST(About, ShowsTheVersionRecordAndLinksToTheMaker) {
+    ScriptedDesktop desktop;
+    Runtime runtime(desktop, {"", "", "Product", "Description", "Comments", "Copyright", 1, 5, 7}, "");
+    frmAbout about(runtime);
+    about.Show();
+    const Form &box = *desktop.Shown().at(0);
+    std::string text = box.Caption();
+    for (const char *name : {"lblTitle", "lblVersion", "lblComments", "lblCopyright"}) {
+        text += "|" + dynamic_cast<const Label &>(box.Controls(name)).Caption();
+    }
+    EXPECT_EQ(text, "About Description|Product|1.05.0007|Comments|Copyright");
+    dynamic_cast<const Label &>(box.Controls("lblCopyright")).Click.Raise();
+    EXPECT_EQ(desktop.Targets(), std::vector<std::string>{NORVO_HOME_PAGE});
+}
+
+TEST(About, IsOneBoxThatEscCloses) {
     Program program;
     program.Start().Choose("HelpAbout").Choose("HelpAbout");
-    ASSERT_EQ(program.Script().Shown().size(), 2U);
-    const Form &about = *program.Script().Shown().back();
-    EXPECT_EQ(about.Caption(), "About Norvo Data File Editor");
-    EXPECT_EQ(dynamic_cast<const Label &>(about.Controls("lblVersion")).Caption(), "1.00.0020");
+    EXPECT_EQ(program.Script().Shown().size(), 2U);
+    EXPECT_EQ(program.Script().Shown().back()->Caption(), "About Norvo Data File Editor");
     program.PressEscape(); // which asks nothing here
     EXPECT_EQ(program.Script().Shown().size(), 1U);
 }

@@ -14,6 +14,7 @@ TEST(Text, ComparisonsIgnoreCaseAndNothingElse) {
         EXPECT_TRUE(BeginsWithIgnoringCase(text, start)) << text << ": " << start;
         EXPECT_FALSE(EqualIgnoringCase(text, start)) << text << ": " << start;
     }
+    EXPECT_FALSE(EqualIgnoringCase(std::string_view("\u00C9").substr(0, 1), "é")) << "reads past the end";
     // A byte of a character is no beginning of it, nor is a stray byte the character of its number.
     for (const char *start : {"e", "élan v", "\xC3", "\xE9", "lan"}) {
         EXPECT_FALSE(BeginsWithIgnoringCase("Élan", start)) << start;
@@ -31,5 +32,6 @@ TEST(Text, LengthsCountUtf16UnitsAndTrimTakesBlanksOnly) {
 TEST(Text, LineBreaksThatAnEditBringsInBecomeBlanks) {
     EXPECT_EQ(WithoutNewLineBreaks("", "a\r\nb\nc\rd\n\r"), "a b c d  ");
     EXPECT_EQ(WithoutNewLineBreaks("a\nb", "x\ny\na\nbc"), "x y a bc");
-    EXPECT_EQ(WithoutNewLineBreaks("a\nb", "a\nbc"), "a\nbc") << "what stood there stays";
+    EXPECT_EQ(WithoutNewLineBreaks("a\nb", "a\nbc"), "a\nbc") << "a line break that was there stays";
+    EXPECT_EQ(WithoutNewLineBreaks("aa\n", "a\n"), "a\n") << "one of two equal characters is deleted";
 }

@@ -1,14 +1,13 @@
 #include "ui/clsCombo.h"
 
 #include "platform/ComboBox.h"
+#include "platform/KeyCodes.h"
 #include "platform/Runtime.h"
 #include "tests/support/ScriptedDesktop.h"
+#include "tests/support/TemporaryFolder.h"
 #include "text/Text.h"
 
 namespace {
-
-constexpr int shift = 16;
-constexpr int backspace = 8;
 
 class Combo : public testing::Test {
 protected:
@@ -47,17 +46,30 @@ protected:
 
 TEST_F(Combo, CompletesWhatIsTyped) {
     const std::tuple<int, const char *, const char *> acts[] = {
-        {'A', "a", "Abacus/1+5"}, {'P', "Ap", "Apple/2+3"}, {backspace, "Ap", "Ap/2+0"},
-        {46, "A", "A/1+0"},       {'Q', "Aq", "Aq/2+0"},    {' ', "X ", "x y/2+1"},
-        {222, "É", "élan/1+3"},   {231, "𝄞", "𝄞 clef/2+5"}, {'A', "", "/0+0"}};
+        {'A', "a", "Abacus/1+5"},     {'P', "Ap", "Apple/2+3"}, {keyCode::back, "Ap", "Ap/2+0"},
+        {keyCode::del, "A", "A/1+0"}, {'Q', "Aq", "Aq/2+0"},    {' ', "X ", "x y/2+1"},
+        {222, "É", "élan/1+3"},       {231, "𝄞", "𝄞 clef/2+5"}, {'A', "", "/0+0"}};
     for (const auto &[key, text, shown] : acts) {
         EXPECT_EQ(Type(key, text), shown);
     }
+    Type(keyCode::back, "Ap");
+    myBox.UserEdits("App", 3); // by an input method, without a key of its own
+    EXPECT_EQ(Release('P'), "Apple/3+2");
     for (const int key : {32, 48, 111, 128, 31, 33, 47, 112, 127}) { // the ends of the ranges that complete
-        Type(backspace, "");
+        Type(keyCode::back, "");
         const bool completes = key == 32 || key == 48 || key == 111 || key == 128;
         EXPECT_EQ(Type(key, "b"), completes ? "Banana/1+5" : "b/1+0") << key;
     }
+}
+
+TEST_F(Combo, CompletesInModeTwoOnly) {
+    for (const int mode : {0, 1, 3}) {
+        myCombo.Mode(static_cast<std::int16_t>(mode));
+        EXPECT_EQ(Type('B', "b"), "b/1+0") << mode;
+        Type(keyCode::back, "");
+    }
+    myBox.UserPicks(1); // All of a picked text is selected, so that the next letter replaces it.
+    EXPECT_EQ(Release('X'), "Apple/0+5");
 }
 
 TEST_F(Combo, KeepsUpWithFastTyping) {
@@ -65,10 +77,10 @@ TEST_F(Combo, KeepsUpWithFastTyping) {
     Press('P', "ap");
     EXPECT_EQ(Release('A'), "Apple/2+3");
     EXPECT_EQ(Release('P'), "Apple/2+3");
-    Press(46, "A"); // Del goes down before a letter comes up.
+    Press(keyCode::del, "A"); // Del goes down before a letter comes up.
     EXPECT_EQ(Release('P'), "A/1+0");
     Press('B', "AB"); // Shift is let go first.
-    Release(shift);
+    Release(keyCode::shift);
     EXPECT_EQ(Release('B'), "Abacus/2+4");
     myBox.UserSelects(0, 6); // Ctrl+A changes no text.
     EXPECT_EQ(Release('A'), "Abacus/0+6");
@@ -85,4 +97,21 @@ TEST_F(Combo, RefusesAnUnlistedText) {
     }
     myCombo.Clear();
     EXPECT_TRUE(myBox.MayLoseFocus()); // An empty list takes everything.
+}
+
+TEST_F(Combo, SearchesALongListToItsEnd) {
+    std::string lines;
+    for (int i = 0; i < 200000; ++i) {
+        lines += "Entry " + std::to_string(i) + "\r\n";
+    }
+    const TemporaryFolder files;
+    myCombo.Clear();
+    myCombo.LoadFromTxtFile(files.Write("list.txt", lines));
+    EXPECT_EQ(myCombo.Fault(), "");
+    EXPECT_EQ(Type('9', "entry 19999"), "Entry 19999/11+0");
+    EXPECT_EQ(Type('8', "entry 199998"), "Entry 199998/12+0");
+    for (const auto &[text, isAccepted] : {std::pair("ENTRY 199999", true), {"entry 200000", false}}) {
+        myBox.Text(text);
+        EXPECT_EQ(myBox.MayLoseFocus(), isAccepted) << text;
+    }
 }
