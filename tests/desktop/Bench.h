@@ -1,7 +1,7 @@
 #pragma once
-/// A form on the real desktop, off the screen, and the user's hands on it: keys and mouse buttons that go in
-/// at the window, as the window system hands them over. What a whole session on a real screen shows, the
-/// roads out of a field and the menu among it, isn't tried again here.
+/// A form on the real desktop, off the screen, and the user's hands on it: keys and mouse buttons arrive at
+/// the window, as the window system delivers them. The sessions on a real screen try the ways out of a field,
+/// the menu and the whole program; these tests don't.
 #include "desktop/QtDesktop.h"
 #include "platform/ComboBox.h"
 #include "platform/Controls.h"

@@ -79,7 +79,8 @@ def session(d, share):
     d.expect(d.opened, [page], "the help page handed to the desktop")
     d.key("alt+h", "a")
     about = d.focus("About " + TITLE)
-    assert "_NET_WM_STATE_SKIP_TASKBAR" in desk.run("xprop", "-id", about, "_NET_WM_STATE")
+    states = desk.run("xprop", "-id", about, "_NET_WM_STATE")
+    assert "_NET_WM_STATE_SKIP_TASKBAR" in states, states
     for text in ("NorvoEditDat", "1.00.0020", "Easily edit data files."):
         d.find("label", text)
     d.click(d.find("label", "\xa9 2026 the authors"))
