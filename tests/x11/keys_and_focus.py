@@ -73,7 +73,7 @@ def session(d, _share):
 
     # Too many words end the program with another status.
     d.start("1", "2", "3")
-    d.focus("NorvoEditDat")
+    d.expect(d.focused, "OK", "the focus in the message")
     d.key("Return")
     assert d.ends() == (1, ""), d.ends()
 
