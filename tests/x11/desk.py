@@ -2,6 +2,7 @@
 drive the editor from outside its process, and the session reads it as a screen reader does. A script that uses
 this starts with `desk.main(session)`."""
 
+import faulthandler
 import os
 import pathlib
 import shutil
@@ -38,7 +39,7 @@ def until(condition, what):
 
 
 def run(*words):
-    return subprocess.run(words, check=True, capture_output=True, text=True).stdout.strip()
+    return subprocess.run(words, check=True, capture_output=True, text=True, timeout=TIMEOUT).stdout.strip()
 
 
 class Desk:
@@ -165,6 +166,7 @@ def main(session):
         # The accessibility bus has its socket there; two sessions at a time must not share one.
         os.environ["XDG_RUNTIME_DIR"] = tempfile.mkdtemp(prefix="norvo-bus-")
         os.execvp("dbus-run-session", ["dbus-run-session", "--", sys.executable, *sys.argv])
+    faulthandler.dump_traceback_later(4 * TIMEOUT)  # A call that never returns shows where it stands.
     desk = Desk(sys.argv[1])
     try:
         session(desk, pathlib.Path(sys.argv[2]).resolve())
