@@ -136,7 +136,7 @@ TEST_F(DatFile, ReadsHugeFilesOrRefusesThem) {
     const std::string word(fiveMillion, 'x');
     for (const std::string &line : {word, '"' + std::string(fiveMillion, ' ') + word + '"'}) {
         EXPECT_EQ(InWords(Loaded(1, line + "\r\nx\r\nx,x")), "2x1: " + word + "/x");
-        EXPECT_EQ(InWords(Loaded(0, line + "\r\nx")), "0x0:");
+        EXPECT_EQ(Loaded(0, line + "\r\nx").Rows(), 0);
     }
     const std::string tooWide = std::string(fiveMillion, ',') + 'x';
     EXPECT_FALSE(Loaded(1, tooWide).WasRead());
