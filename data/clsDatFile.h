@@ -84,7 +84,6 @@ private:
     void LoadCsv(bool pHasHeaders);
     void SaveDat();
     void SaveCsv(bool pHasHeaders);
-    static char *Quote(std::string_view pField, bool pHasQuotes, std::string_view pRow, char *pTo);
 
     void StopWithoutFileName() const;
     bool TakeFaultOf(const TextInput &pFile);

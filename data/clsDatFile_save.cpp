@@ -1,31 +1,23 @@
 // The two writers. They share the form of a row, and differ only in the line before row 0.
 #include "data/clsDatFile.h"
 
-#include "text/CopyPart.h"
 #include "text/Files.h"
 #include "text/Numbers.h"
+#include "text/PartCopier.h"
 
 #include <algorithm>
-#include <cstring>
 #include <utility>
 
 namespace {
 
-/// The next double quote from pFrom on, or pEnd.
-const char *NextQuote(const char *pFrom, const char *pEnd) {
-    const auto length = static_cast<std::size_t>(pEnd - pFrom);
-    const void *const found = length == 0 ? nullptr : std::memchr(pFrom, '"', length);
-    return found == nullptr ? pEnd : static_cast<const char *>(found);
-}
-
-} // namespace
+constexpr std::string_view emptyField = R"("",)";
 
 /// Writes pField, a part of pRow, to pTo in the form that fields have on disk, and returns the end of it. pTo
 /// needs room for copySlack bytes more than that.
-char *clsDatFile::Quote(std::string_view pField, bool pHasQuotes, std::string_view pRow, char *pTo) {
+char *Quote(std::string_view pField, bool pHasQuotes, const PartCopier &pRow, char *pTo) {
     *pTo++ = '"';
     if (!pHasQuotes) {
-        pTo = CopyPart(pField, pRow, pTo);
+        pTo = pRow.Copy(pField, pTo);
     } else {
         for (const char character : pField) {
             *pTo = '"';
@@ -37,6 +29,8 @@ char *clsDatFile::Quote(std::string_view pField, bool pHasQuotes, std::string_vi
     return pTo;
 }
 
+} // namespace
+
 /// The most bytes that any line needs: each byte of a cell may be doubled, and two quotes and a comma come
 /// with it.
 std::size_t clsDatFile::MostLineBytes(const TextRow &pTitles) const {
@@ -44,7 +38,7 @@ std::size_t clsDatFile::MostLineBytes(const TextRow &pTitles) const {
     for (const TextRow &row : myData) {
         most = std::max(most, row.Run().size());
     }
-    constexpr std::size_t sizes = 16; // the first line of the .dat form
+    constexpr std::size_t sizes = 16; // of the .dat form's first line
     return std::max(sizes, 2 * most + 3 * static_cast<std::size_t>(myCols)) + copySlack;
 }
 
@@ -52,21 +46,19 @@ void clsDatFile::PrintRow(TextOutput &pFile, const TextRow &pCells) const {
     const auto cols = static_cast<std::size_t>(myCols);
     const std::span<const TextRow::Place> ends = pCells.Ends().first(std::min(cols, pCells.Ends().size()));
     const std::string_view run = pCells.Run();
-    const char *const end = run.data() + run.size();
-    const char *cell = run.data();
-    const char *quote = NextQuote(cell, end); // One search for the whole row: most cells have no quotes.
+    const PartCopier row(run);
+    std::size_t quote = run.find('"'); // One search for the whole row: most cells have no quotes.
+    std::size_t from = 0;
     char *to = pFile.BeginLine();
-    for (const TextRow::Place place : ends) {
-        const char *const cellEnd = run.data() + place;
-        const bool hasQuotes = quote < cellEnd;
-        to = Quote({cell, cellEnd}, hasQuotes, run, to);
-        quote = hasQuotes ? NextQuote(cellEnd, end) : quote;
+    for (const TextRow::Place end : ends) {
+        const bool hasQuotes = quote < end;
+        to = Quote({run.data() + from, end - from}, hasQuotes, row, to);
+        quote = hasQuotes ? run.find('"', end) : quote;
         *to++ = ',';
-        cell = cellEnd;
+        from = end;
     }
     for (std::size_t missing = ends.size(); missing < cols; ++missing) {
-        to = Quote({}, false, {}, to);
-        *to++ = ',';
+        to = std::copy(emptyField.begin(), emptyField.end(), to);
     }
     to -= cols > 0 ? 1 : 0; // No comma follows the last field.
     pFile.EndLine(to);
@@ -93,7 +85,7 @@ void clsDatFile::SaveCsv(bool pHasHeaders) {
     if (myFn.empty()) {
         return;
     }
-    const TextRow titles(myHeaders); // PrintRow fills up missing titles and leaves out surplus ones.
+    const TextRow titles(myHeaders); // A row takes of them as many as it has fields; those missing are empty.
     TextOutput file(myFn, MostLineBytes(titles));
     if (pHasHeaders) {
         PrintRow(file, titles);

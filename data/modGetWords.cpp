@@ -1,11 +1,8 @@
 #include "data/modGetWords.h"
 
 #include "text/Cursor.h"
-#include "text/Text.h"
 
 #include <algorithm>
-#include <optional>
-#include <string>
 
 namespace modGetWords {
 
@@ -17,32 +14,48 @@ bool EndsWord(char pCharacter) {
 }
 
 /// Takes the word whose first character is next. An LF there belongs to the word, a comma makes it empty.
-std::string_view TakePlainWord(Cursor &pLine) {
+void TakePlainWord(Cursor &pLine, TextRowBuilder &pWords) {
     const std::size_t from = pLine.Place();
     pLine.Take('\n');
     pLine.TakeWhile([](char pCharacter) { return !EndsWord(pCharacter); });
-    return pLine.PassedSince(from);
+    pWords.AddPart(pLine.PassedSince(from));
 }
 
-/// Takes the word whose opening quote has been passed. Null when the line is malformed: the word is not
-/// closed, or text follows its closing quote. A word with doubled quotes is put together in pBuffer.
-std::optional<std::string_view> TakeQuotedWord(Cursor &pLine, std::string &pBuffer) {
-    pBuffer.clear();
+/// Takes the word whose opening quote has been passed. False when the line is malformed: the word is not
+/// closed, or text follows its closing quote.
+bool TakeQuotedWord(Cursor &pLine, TextRowBuilder &pWords) {
+    pLine.TakeBlanks(); // No word begins with a blank.
     for (;;) {
+        const std::size_t from = pLine.Place();
         const std::string_view part = pLine.TakeUntil('"');
-        if (!pLine.Take('"')) {
-            return std::nullopt;
+        if (pLine.AtEnd()) {
+            return false;
         }
-        const std::string_view blanks = pLine.TakeBlanks();
+        pLine.Pass();
+        pLine.TakeBlanks();
         if (pLine.AtEnd() || EndsWord(pLine.Next())) {
-            return pBuffer.empty() ? part : pBuffer.append(part);
+            pWords.AddPart(part);
+            return true;
         }
+        // The quote and the next one stand for one, and the blanks between them belong to the word.
+        pWords.AddPart(pLine.PassedSince(from));
         if (!pLine.Take('"')) {
-            return std::nullopt;
+            return false;
         }
-        // The two quotes stand for one, and the blanks between them belong to the word.
-        pBuffer.append(part).append(1, '"').append(blanks);
     }
+}
+
+/// Takes the next word, quoted or plain. False when the line makes no sense from here on.
+bool TakeWord(Cursor &pLine, TextRowBuilder &pWords) {
+    pLine.TakeBlanks();
+    if (pLine.AtEnd()) {
+        return false; // An empty last word has to be written as two quotes.
+    }
+    if (pLine.Take('"')) {
+        return TakeQuotedWord(pLine, pWords);
+    }
+    TakePlainWord(pLine, pWords);
+    return true;
 }
 
 } // namespace
@@ -51,22 +64,15 @@ TextRow GetWords(std::string_view pLine, TextRowRoom &pRoom) {
     constexpr std::size_t mostKept = mostWords + 1;
     TextRowBuilder words(pRoom, std::min(pLine.size() + 1, mostKept), pLine.size(), pLine);
     Cursor line(pLine);
-    std::string buffer;
-    for (;;) {
-        line.TakeBlanks();
-        if (line.AtEnd()) {
-            return {}; // An empty last word has to be written as two quotes.
-        }
-        const auto word = line.Take('"') ? TakeQuotedWord(line, buffer) : TakePlainWord(line);
-        if (!word) {
-            return {};
-        }
-        words.Append(Trim(*word));
+    while (TakeWord(line, words)) {
+        words.DropBlanksAtEnd();
+        words.EndText();
         if (line.AtEnd()) {
             return words.Row();
         }
-        line.Pass();
+        line.Pass(); // The comma or LF that ended the word.
     }
+    return {};
 }
 
 } // namespace modGetWords

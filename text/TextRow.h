@@ -2,7 +2,7 @@
 /// A row of texts, such as the cells of a record, in one block of memory: first where each text ends, then
 /// the texts one after another. The block never changes, so copies of a row share it, and a record that goes
 /// from a file into a table and on into a list is in memory once.
-#include "text/CopyPart.h"
+#include "text/PartCopier.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -60,33 +60,52 @@ public:
                    std::string_view pSource = {});
 
     /// Appends pText. A row that is full stays as it is.
-    void Append(std::string_view pText);
+    void Append(std::string_view pText) {
+        AddPart(pText);
+        EndText();
+    }
+
+    /// Adds pPart to the text that EndText will append.
+    void AddPart(std::string_view pPart) { myTextEnd = mySource.Copy(pPart, myTextEnd); }
+    /// Takes the blanks at the end of that text away again.
+    void DropBlanksAtEnd();
+    /// Appends what was added since the last text. A row that is full stays as it is.
+    void EndText();
 
     /// The row of the texts appended so far.
-    TextRow Row() const { return TextRow({myRun, myRunEnd}, {myEnds, myCount}); }
+    TextRow Row() const { return TextRow({myRun, myText}, {myEnds, myNextEnd}); }
 
 private:
-    std::string_view mySource;
+    PartCopier mySource;
     char *myRun;
-    char *myRunEnd;
+    char *myText; ///< where the text begins that is not yet appended
+    char *myTextEnd;
     TextRow::Place *myEnds;
-    std::size_t myCount = 0;
-    std::size_t myMostTexts;
+    TextRow::Place *myNextEnd;
+    TextRow::Place *myEndsEnd; ///< of the room for them
 };
-
-inline void TextRowBuilder::Append(std::string_view pText) {
-    if (myCount < myMostTexts) {
-        myRunEnd = CopyPart(pText, mySource, myRunEnd);
-        myEnds[myCount++] = static_cast<TextRow::Place>(myRunEnd - myRun);
-    }
-}
 
 inline TextRowBuilder::TextRowBuilder(TextRowRoom &pRoom, std::size_t pMostTexts, std::size_t pMostBytes,
                                       std::string_view pSource)
-    : mySource(pSource), myMostTexts(pMostTexts) {
+    : mySource(pSource) {
     pRoom.run.resize(std::max(pRoom.run.size(), pMostBytes + copySlack));
     pRoom.ends.resize(std::max(pRoom.ends.size(), pMostTexts));
-    myRun = pRoom.run.data();
-    myRunEnd = myRun;
-    myEnds = pRoom.ends.data();
+    myRun = myText = myTextEnd = pRoom.run.data();
+    myEnds = myNextEnd = pRoom.ends.data();
+    myEndsEnd = myEnds + pMostTexts;
+}
+
+inline void TextRowBuilder::DropBlanksAtEnd() {
+    while (myTextEnd != myText && myTextEnd[-1] == ' ') {
+        --myTextEnd;
+    }
+}
+
+inline void TextRowBuilder::EndText() {
+    if (myNextEnd == myEndsEnd) {
+        myTextEnd = myText;
+        return;
+    }
+    *myNextEnd++ = static_cast<TextRow::Place>(myTextEnd - myRun);
+    myText = myTextEnd;
 }
