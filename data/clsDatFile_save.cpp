@@ -85,7 +85,7 @@ void clsDatFile::SaveCsv(bool pHasHeaders) {
     if (myFn.empty()) {
         return;
     }
-    const TextRow titles(myHeaders); // A row takes of them as many as it has fields; those missing are empty.
+    const TextRow titles(myHeaders); // PrintRow fills up missing titles and leaves out surplus ones.
     TextOutput file(myFn, MostLineBytes(titles));
     if (pHasHeaders) {
         PrintRow(file, titles);

@@ -1,5 +1,5 @@
 #pragma once
-/// Copies of many short texts that lie in one long one, such as the cells of a line.
+/// Copies many short texts that lie in one long text, such as the cells of a line.
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
@@ -22,7 +22,8 @@ public:
     /// Copies pPart, which may also lie elsewhere, to pTo and returns the end of the copy. pTo needs room for
     /// copySlack bytes more.
     char *Copy(std::string_view pPart, char *pTo) const {
-        // Before the whole the difference is huge, so one comparison is enough for both sides.
+        // For a part before the whole the difference wraps to a huge number, so one comparison checks both
+        // sides.
         if (Address(pPart) - myBegin < myFastPlaces && pPart.size() <= copySlack) {
             std::memcpy(pTo, pPart.data(), copySlack);
             return pTo + pPart.size();
@@ -37,5 +38,5 @@ private:
     }
 
     std::uintptr_t myBegin;
-    std::size_t myFastPlaces; ///< at the start of the whole: copySlack bytes can be read from each
+    std::size_t myFastPlaces; ///< so many places, from the start of the whole, have copySlack readable bytes
 };

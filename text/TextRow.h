@@ -67,9 +67,9 @@ public:
 
     /// Adds pPart to the text that EndText will append.
     void AddPart(std::string_view pPart) { myTextEnd = mySource.Copy(pPart, myTextEnd); }
-    /// Takes the blanks at the end of that text away again.
+    /// Removes the blanks at the end of that text.
     void DropBlanksAtEnd();
-    /// Appends what was added since the last text. A row that is full stays as it is.
+    /// Appends the text of the parts added since the last one. A row that is full stays as it is.
     void EndText();
 
     /// The row of the texts appended so far.
@@ -78,11 +78,11 @@ public:
 private:
     PartCopier mySource;
     char *myRun;
-    char *myText; ///< where the text begins that is not yet appended
+    char *myText; ///< start of the text not yet appended
     char *myTextEnd;
     TextRow::Place *myEnds;
     TextRow::Place *myNextEnd;
-    TextRow::Place *myEndsEnd; ///< of the room for them
+    TextRow::Place *myEndsEnd; ///< end of the room for them
 };
 
 inline TextRowBuilder::TextRowBuilder(TextRowRoom &pRoom, std::size_t pMostTexts, std::size_t pMostBytes,
