@@ -14,7 +14,7 @@ namespace {
 struct Field {
     NoDesktop desktop;
     Runtime runtime{desktop, {}, ""};
-    ComboBox &box = runtime.NewForm("form").Add<ComboBox>("box");
+    ComboBox &box = runtime.NewForm().Add<ComboBox>("box");
     clsCombo combo;
     std::string lastEntry;
 };
@@ -74,7 +74,7 @@ void RedrawLayout(benchmark::State &pState) {
     constexpr float step = 15;
     NoDesktop desktop;
     Runtime runtime(desktop, {}, "");
-    Form &form = runtime.NewForm("form");
+    Form &form = runtime.NewForm();
     form.ClientSize(narrowest, 5000);
     for (std::int64_t i = 0; i < 2 * pState.range(0); ++i) { // A field is a label and a box.
         auto &control = form.Add<Label>(std::to_string(i));

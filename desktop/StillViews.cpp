@@ -35,13 +35,9 @@ void LabelView::paintEvent(QPaintEvent *pEvent) {
                           QPalette::WindowText);
 }
 
-void LabelView::mousePressEvent(QMouseEvent *pEvent) {
-    // Qt delivers a release only to the widget that took the press.
-    pEvent->setAccepted(myLabel.IsLink() && pEvent->button() == Qt::LeftButton);
-}
-
 void LabelView::mouseReleaseEvent(QMouseEvent *pEvent) {
-    if (pEvent->button() == Qt::LeftButton && rect().contains(pEvent->position().toPoint())) {
+    if (myLabel.IsLink() && pEvent->button() == Qt::LeftButton &&
+        rect().contains(pEvent->position().toPoint())) {
         myActs.Handle([this] { myLabel.Click.Raise(); });
     }
 }

@@ -14,7 +14,6 @@ public:
 protected:
     void Show() override;
     void paintEvent(QPaintEvent *pEvent) override;
-    void mousePressEvent(QMouseEvent *pEvent) override;
     void mouseReleaseEvent(QMouseEvent *pEvent) override;
 
 private:

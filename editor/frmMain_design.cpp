@@ -35,8 +35,8 @@ MenuItem &Entry(Form &pForm, const char *pName, const char *pCaption, const Menu
 } // namespace
 
 frmMain::frmMain(Runtime &pRuntime, std::string pSpecFile, frmAbout &pAbout)
-    : myRuntime(pRuntime), mySpecFile(std::move(pSpecFile)), myAbout(pAbout),
-      myForm(pRuntime.NewForm("frmMain")), cDlg(myForm.Add<CommonDialog>("cDlg")),
+    : myRuntime(pRuntime), mySpecFile(std::move(pSpecFile)), myAbout(pAbout), myForm(pRuntime.NewForm()),
+      cDlg(myForm.Add<CommonDialog>("cDlg")),
       cmdAdd(Place<CommandButton>(myForm, "cmdAdd", {120, 3240, 720, 360, 0, "Y=1"})),
       cmdMoveUp(Place<CommandButton>(myForm, "cmdMoveUp", {1800, 3240, 361, 360, 1, "Y=1"})),
       cmdDel(Place<CommandButton>(myForm, "cmdDel", {960, 3240, 720, 359, 2, "Y=1"})),

@@ -66,7 +66,7 @@ void RequireLaws(std::string_view pBytes) {
 
     NoDesktop desktop;
     Runtime runtime(desktop, {}, "");
-    Form &form = runtime.NewForm("form");
+    Form &form = runtime.NewForm();
     form.Width(startWidth);
     form.Height(startHeight);
     const SizedControl &tagged = AddLabel(form, "tagged", options);

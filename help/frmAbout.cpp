@@ -39,7 +39,7 @@ void PlaceLine(Form &pForm, const char *pName, double pLeft, double pTop, int pP
 } // namespace
 
 frmAbout::frmAbout(Runtime &pRuntime)
-    : myRuntime(pRuntime), myForm(pRuntime.NewForm("frmAbout")),
+    : myRuntime(pRuntime), myForm(pRuntime.NewForm()),
       cmdOK(Place<CommandButton>(myForm, "cmdOK", 4245, 2625, 1260, 345)),
       lblComments(PlaceLabel(myForm, "lblComments", 960, 1170, 4485, 1005, 2)),
       lblCopyright(PlaceLabel(myForm, "lblCopyright", 255, 2625, 1590, 345, 3)),

@@ -24,13 +24,11 @@ public:
     static constexpr float frameWidthTwips = 240;
     static constexpr float frameHeightTwips = 1050;
 
-    Form(::Runtime &pRuntime, std::string pName) : myRuntime(pRuntime), myName(std::move(pName)) {}
+    explicit Form(::Runtime &pRuntime) : myRuntime(pRuntime) {}
     Form(const Form &) = delete;
     Form &operator=(const Form &) = delete;
 
     ::Runtime &Runtime() const { return myRuntime; }
-    const std::string &Name() const { return myName; }
-
     const std::string &Caption() const { return myCaption; }
     void Caption(std::string pCaption);
 
@@ -86,7 +84,6 @@ public:
 
 private:
     ::Runtime &myRuntime;
-    std::string myName;
     std::string myCaption;
     BorderStyle myBorder = BorderStyle::Sizable;
     float myWidth = 0;

@@ -31,8 +31,8 @@ void Runtime::End(int pStatus) const {
     std::abort(); // Not reached. The compiler ignores that a virtual function never returns.
 }
 
-Form &Runtime::NewForm(const std::string &pName) {
-    myForms.push_back(std::make_unique<Form>(*this, pName));
+Form &Runtime::NewForm() {
+    myForms.push_back(std::make_unique<Form>(*this));
     return *myForms.back();
 }
 

@@ -45,7 +45,7 @@ public:
     [[noreturn]] void End(int pStatus = 0) const;
 
     /// Makes a form, not yet loaded. The runtime owns it to the end.
-    Form &NewForm(const std::string &pName);
+    Form &NewForm();
 
     /// Ends the program if no form is loaded any more. A desktop calls it after each handler, so that a
     /// handler that unloads a form runs to its end.

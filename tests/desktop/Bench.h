@@ -38,7 +38,7 @@ protected:
 
     QtDesktop desktop;
     Runtime runtime{desktop, AppRecord{}, ""};
-    Form &form = runtime.NewForm("form");
+    Form &form = runtime.NewForm();
     CommandButton &cmdAdd = form.Add<CommandButton>("cmdAdd");
     CommandButton &cmdCancel = form.Add<CommandButton>("cmdCancel"); ///< answers Esc
     ListView &list = form.Add<ListView>("list");                     ///< Abacus, Apple, Banana

@@ -38,7 +38,7 @@ protected:
 
     ScriptedDesktop myDesktop;
     Runtime myRuntime{myDesktop, {}, ""};
-    ComboBox &myBox = myRuntime.NewForm("form").Add<ComboBox>("box");
+    ComboBox &myBox = myRuntime.NewForm().Add<ComboBox>("box");
     clsCombo myCombo;
 };
 

@@ -16,7 +16,7 @@ TEST(Layout, ReadsSharesFromOptionStrings) {
     // clang-format on
     ScriptedDesktop desktop;
     Runtime runtime(desktop, {}, "");
-    Form &form = runtime.NewForm("form");
+    Form &form = runtime.NewForm();
     for (const auto &[options, left] : cases) {
         auto &label = form.Add<Label>(options);
         label.Move(100, 200, 300, 400);
