@@ -102,10 +102,8 @@ inline void TextRowBuilder::DropBlanksAtEnd() {
 }
 
 inline void TextRowBuilder::EndText() {
-    if (myNextEnd == myEndsEnd) {
-        myTextEnd = myText;
-        return;
+    if (myNextEnd != myEndsEnd) {
+        *myNextEnd++ = static_cast<TextRow::Place>(myTextEnd - myRun);
+        myText = myTextEnd;
     }
-    *myNextEnd++ = static_cast<TextRow::Place>(myTextEnd - myRun);
-    myText = myTextEnd;
 }

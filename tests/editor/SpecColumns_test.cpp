@@ -26,15 +26,18 @@ std::string Read(const std::string &pBytes) {
 } // namespace
 
 TEST(SpecColumns, ReadTheNumbersEachInItsOwnWay) {
-    EXPECT_EQ(Read(R"(5,4
+    EXPECT_EQ(Read(R"(7,4
 ,12.5,99999,-
 B,12.5,x,--
 C,1e1,-1,""
 D,0,2.5,-
 E,1,2.5,list.txt
+F,0.5,0,-
+G,1,0,-
 )"),
               "|12|X=0/100 W=13/100|text\nB|12|X=12/100 W=13/100|-- 0\nC|10|X=24/100 W=10/100| -1\n"
-              "D|0|X=34/100 W=0/100|text\nE|1|X=34/100 W=1/100|list.txt 2\n");
+              "D|0|X=34/100 W=0/100|text\nE|1|X=34/100 W=1/100|list.txt 2\n"
+              "F|0|X=35/100 W=1/100|text\nG|1|X=36/100 W=1/100|text\n");
 }
 
 TEST(SpecColumns, NameTheFirstFault) {
