@@ -1,5 +1,5 @@
-# Run by cpack before it packs: gives the installed tree the documents that a Debian package has, in the form
-# that its rules ask for. An installation without a package has no use for them.
+# cpack runs this before it packs. It gives the installed tree the documents of a Debian package, in the form
+# that Debian's rules require. An installation without a package doesn't need them.
 
 if(NOT CPACK_GENERATOR STREQUAL "DEB")
     return()
@@ -16,7 +16,7 @@ execute_process(
     COMMAND gzip -9n "${documents}/changelog" "${prefix}/${CPACK_NORVO_MANDIR}/man1/NorvoEditDat.1"
     COMMAND_ERROR_IS_FATAL ANY)
 
-# Whatever the umask of the one who packs.
+# The packager's umask must not show in the package.
 file(CHMOD_RECURSE "${prefix}" DIRECTORY_PERMISSIONS
     OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 file(CHMOD_RECURSE "${documents}" FILE_PERMISSIONS OWNER_READ OWNER_WRITE GROUP_READ WORLD_READ

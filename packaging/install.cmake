@@ -1,4 +1,4 @@
-# What "cmake --install" puts where.
+# Where "cmake --install" puts each file.
 
 include(GNUInstallDirs)
 
@@ -19,7 +19,7 @@ if(WIN32)
     return()
 endif()
 
-# The program follows the link to its own file, and so finds what stands beside that.
+# The program follows this link to its own file, and finds the other files beside that.
 file(RELATIVE_PATH program_from_bin "/${CMAKE_INSTALL_BINDIR}" "/${program_folder}/NorvoEditDat")
 install(CODE "
     set(bin \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_BINDIR}\")

@@ -1,5 +1,5 @@
-# What "cpack" makes: a Debian package from a build, and "cpack --config CPackSourceConfig.cmake" an archive
-# of the sources.
+# "cpack" makes a Debian package from a build. "cpack --config CPackSourceConfig.cmake" makes an archive of the
+# sources.
 
 set(CPACK_PACKAGE_NAME norvo-edit-dat)
 set(CPACK_PACKAGE_VENDOR "Norvo")
@@ -10,10 +10,10 @@ set(CPACK_PACKAGE_DESCRIPTION
 "NorvoEditDat keeps lists clean: a few hundred or a few thousand records in
 a plain text file, edited by one person, mostly by keyboard.
 .
-A specification file of a few lines says what a record consists of. From it
-the program builds its form, with a field for each column above the list of
-all records. A field can offer a list of values, insist on one of them, and
-complete what is typed.
+A specification file of a few lines describes the columns of a record. The
+program builds its form from that, with a field for each column above the list
+of all records. A field can offer a list of values, insist on one of them, and
+complete what you type.
 .
 Data files are comma-separated values, or the program's own form with the
 number of records in front. A sample and a help page are included.")
@@ -26,9 +26,9 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION editors)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-# The forms are laid out in a font of these metrics; no library asks for it.
+# The forms are laid out for the metrics of this font. No library depends on it.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS fonts-liberation)
-# One finds the program for the help page, the other is Qt's way to a desktop without X.
+# qt6-wayland is for desktops without X. xdg-utils finds the program that opens the help page.
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland, xdg-utils")
 
 configure_file(packaging/copyright.in copyright @ONLY)
@@ -40,7 +40,8 @@ set(CPACK_PRE_BUILD_SCRIPTS "${CMAKE_CURRENT_SOURCE_DIR}/packaging/debian-docume
 
 set(CPACK_SOURCE_GENERATOR TXZ)
 set(CPACK_SOURCE_PACKAGE_FILE_NAME "${CPACK_PACKAGE_NAME}-${PROJECT_VERSION}")
-# The patterns meet whole paths: without the top in front, sources below a folder "build" would all be left out.
+# The patterns match whole paths. Without the top in front they would leave out all sources that lie below a
+# folder "build".
 string(REGEX REPLACE "([][+.*^$()|?\\\\])" "\\\\\\1" top "${CMAKE_CURRENT_SOURCE_DIR}")
 set(CPACK_SOURCE_IGNORE_FILES
     "^${top}/\\.git/" "^${top}/build[^/]*/" "^${top}/CMakeUserPresets\\.json$" "/__pycache__/" "~$" "\\.swp$")

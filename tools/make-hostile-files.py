@@ -1,11 +1,11 @@
 #!/usr/bin/env python3
-"""Makes the files that no editor likes to open, to try the program's window on them.
+"""Makes files that are hard on an editor, to try the program's window on them.
 
 usage: make-hostile-files.py FOLDER
 
 Writes into FOLDER a specification of two columns, two.dat, and then damaged, huge and special files. The
-name of a file begins with the form to open it in: dat_, csv_ or csvh_. The specification list.dat has a
-field whose list file holds 200,000 entries. Start the program as
+name of each file begins with the form to open it in: dat_, csv_ or csvh_. The specification list.dat has a
+field whose list file holds 200,000 entries. Start the program like this:
 
     NorvoEditDat FOLDER/two.dat FOLDER/dat_zero_bytes
     NorvoEditDat FOLDER/two.dat FOLDER/csv_line_50mb /csv
@@ -74,7 +74,7 @@ def main():
     (folder / "two.dat").write_bytes(SPECIFICATION)
     entries = b"".join(b"Entry %d\r\n" % number for number in range(200_000))
     (folder / "entries.txt").write_bytes(entries)
-    # A list file is looked for by its whole name first.
+    # With its full path the program finds the list file wherever it is started.
     list_file = os.fsencode(folder.resolve() / "entries.txt")
     (folder / "list.dat").write_bytes(
         SPECIFICATION.replace(b'"40","0","-"', b'"40","2","' + list_file + b'"'))

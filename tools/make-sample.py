@@ -31,7 +31,7 @@ def tab_rows(path):
 
 
 def alphabetical(text):
-    """Sorts a letter with its accent beside the letter without: Åland Islands stands among the A's."""
+    """A sort key that puts a letter with an accent beside the plain one: Åland Islands is among the A's."""
     plain = "".join(c for c in unicodedata.normalize("NFD", text) if not unicodedata.combining(c))
     return (plain.casefold(), text)
 

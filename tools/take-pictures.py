@@ -1,5 +1,5 @@
-"""Takes pictures of the running program to be looked at: light, dark and high contrast, at scale 1, 1.5 and 2,
-with a system font half as large again, small and large, and its boxes. Not a test.
+"""Takes pictures of the running program for a person to look at: light, dark and high contrast, at scale 1, 1.5
+and 2, with a system font of one and a half times the size, small and large, and its boxes. Not a test.
 
     /usr/bin/python3 tools/take-pictures.py PROGRAM SHARE_FOLDER FOLDER_FOR_THE_PICTURES"""
 
@@ -18,7 +18,7 @@ COLOURS = {  # window, its text, fields, their text, buttons, selection, its tex
 
 
 def settings(d, theme, points):
-    """Colours and font of the desktop, as one kind of desktop that the toolkit knows hands them over."""
+    """Writes colours and font where one desktop that the toolkit knows keeps its own."""
     lines = ["[General]", "font=Liberation Sans,%d,-1,5,50,0,0,0,0,0" % points,
              "menuFont=Liberation Sans,%d,-1,5,50,0,0,0,0,0" % points, "[KDE]", "widgetStyle=Fusion"]
     if theme in COLOURS:
@@ -33,7 +33,7 @@ def settings(d, theme, points):
 
 
 def take(d, name):
-    desk.time.sleep(0.5)  # What is painted has no name to wait for, and nothing here is asserted.
+    desk.time.sleep(0.5)  # Nothing tells when painting is done, and no test depends on this.
     desk.run("xsetroot", "-solid", "#5b6e7d")
     desk.run("import", "-window", "root", "-trim", "+repage", os.path.join(sys.argv[3], name + ".png"))
 
