@@ -37,12 +37,6 @@ inline double StatusMegabytes(const std::string &pName) {
     return kilobytes * megabytesOfKilobyte;
 }
 
-/// Gives all freed memory back to the system and begins to measure the peak anew.
-inline void FreshMemory() {
-    malloc_trim(0);
-    std::ofstream("/proc/self/clear_refs") << "5";
-}
-
 /// Runs pAct on the result of pPrepare, once for each iteration, and times pAct alone. The act has to leave
 /// its result in the subject, so that it is destroyed outside the clock. pIsRight tells whether it is right:
 /// a wrong result is no time. The counters extra_MB and kept_MB are the memory that the act needed at its
@@ -52,7 +46,8 @@ void Measure(benchmark::State &pState, Prepare pPrepare, Act pAct, IsRight pIsRi
     bool isRight = true;
     for (auto _ : pState) {
         auto subject = pPrepare();
-        FreshMemory();
+        malloc_trim(0);                                // Gives all freed memory back to the system.
+        std::ofstream("/proc/self/clear_refs") << "5"; // Starts to measure the peak.
         const double before = StatusMegabytes("VmRSS");
         pState.SetIterationTime(SecondsOf([&] { pAct(subject); }));
         pState.counters["extra_MB"] = StatusMegabytes("VmHWM") - before;
@@ -71,8 +66,13 @@ inline void Configure(Benchmark *pBenchmark, const char *pSizeName, const std::v
     pBenchmark->Repetitions(5)->DisplayAggregatesOnly(true);
 }
 
-/// The same for Measure: nine passes of one iteration. Benchmarks of one program can take turns with them
-/// (see
+/// The same, at the numbers of bytes.
+inline void ConfigureBytes(Benchmark *pBenchmark) {
+    Configure(pBenchmark, "bytes", Tables::byteCounts);
+}
+
+/// The same for Measure, at the numbers of rows: nine passes of one iteration. Benchmarks of one program can
+/// take turns with them (see
 /// --benchmark_enable_random_interleaving).
 inline void ConfigureRows(Benchmark *pBenchmark) {
     Configure(pBenchmark, "rows", Tables::rowCounts);

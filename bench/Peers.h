@@ -162,18 +162,24 @@ template <bool makesRoom> std::vector<Tables::Row> ReadByLibcsv(const std::strin
     return std::move(collector.rows);
 }
 
+/// A table to write.
+struct Table {
+    Tables::Cells cells;
+    std::string bytes; ///< the finished file
+};
+
 /// The finished bytes, in one go. No writer can do less.
-inline void PlainWrite(const std::string &pFile, std::string_view pBytes) {
+inline void PlainWrite(const std::string &pFile, const Table &pTable) {
     const FilePointer file = Open(pFile, "wb");
-    Put(file, pBytes);
+    Put(file, pTable.bytes);
     FlushToDisk(file);
 }
 
 /// Quotes cell after cell into a block, and writes the block when it is full.
-inline void QuoteInBlocks(const std::string &pFile, Tables::Cells pCells) {
+inline void QuoteInBlocks(const std::string &pFile, const Table &pTable) {
     const FilePointer file = Open(pFile, "wb");
-    std::string block = Tables::SizeLine(pCells);
-    for (const Tables::Row &row : pCells) {
+    std::string block = Tables::SizeLine(pTable.cells);
+    for (const Tables::Row &row : pTable.cells) {
         Tables::AppendRow(block, row);
         if (block.size() >= blockBytes) {
             Put(file, block);
@@ -186,10 +192,10 @@ inline void QuoteInBlocks(const std::string &pFile, Tables::Cells pCells) {
 
 /// Writes the table, each cell by pWriteCell.
 template <typename WriteCell>
-void WriteCells(const std::string &pFile, Tables::Cells pCells, WriteCell pWriteCell) {
+void WriteCells(const std::string &pFile, const Table &pTable, WriteCell pWriteCell) {
     const FilePointer file = Open(pFile, "wb");
-    Put(file, Tables::SizeLine(pCells));
-    for (const Tables::Row &row : pCells) {
+    Put(file, Tables::SizeLine(pTable.cells));
+    for (const Tables::Row &row : pTable.cells) {
         for (const std::string &cell : row) {
             if (&cell != &row.front()) {
                 std::putc(',', file.get());
@@ -202,17 +208,17 @@ void WriteCells(const std::string &pFile, Tables::Cells pCells, WriteCell pWrite
 }
 
 /// libcsv's writer for files, csv_fwrite2.
-inline void WriteByLibcsvFwrite(const std::string &pFile, Tables::Cells pCells) {
-    WriteCells(pFile, pCells, [](const FilePointer &pTo, const std::string &pCell) {
+inline void WriteByLibcsvFwrite(const std::string &pFile, const Table &pTable) {
+    WriteCells(pFile, pTable, [](const FilePointer &pTo, const std::string &pCell) {
         csv_fwrite2(pTo.get(), pCell.data(), pCell.size(), '"');
     });
 }
 
 /// libcsv's writer for memory, csv_write2, and fwrite. Its manual advises this to those who need to know how
 /// much was written.
-inline void WriteByLibcsvWrite(const std::string &pFile, Tables::Cells pCells) {
+inline void WriteByLibcsvWrite(const std::string &pFile, const Table &pTable) {
     std::string field;
-    WriteCells(pFile, pCells, [&field](const FilePointer &pTo, const std::string &pCell) {
+    WriteCells(pFile, pTable, [&field](const FilePointer &pTo, const std::string &pCell) {
         field.resize(2 * pCell.size() + 2); // Each character may be a quote.
         const std::size_t length = csv_write2(field.data(), field.size(), pCell.data(), pCell.size(), '"');
         Put(pTo, {field.data(), length});

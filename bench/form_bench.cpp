@@ -32,11 +32,10 @@ using Act = bool (*)(Field &, const std::string &pUnlisted);
 
 /// One key: of all entries only the last completes the text so far.
 const Act complete = [](Field &pField, const std::string & /*pUnlisted*/) {
-    constexpr int someLetter = 65;
     pField.box.Text("");
-    pField.box.UserPressesKey(someLetter);
+    pField.box.UserPressesKey('A');
     pField.box.UserEdits(pField.lastEntry, static_cast<int>(pField.lastEntry.size()));
-    pField.box.UserReleasesKey(someLetter, 0);
+    pField.box.UserReleasesKey('A', 0);
     return pField.box.ListIndex() == pField.box.ListCount() - 1;
 };
 

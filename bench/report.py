@@ -62,12 +62,13 @@ def line(what, figure, title="-", other="-", ratio=None, goal="-"):
     return what, figure, title, other, "-" if ratio is None else "%.2f" % ratio, goal, met
 
 
-def milliseconds(values):
-    return "%.4g ms" % statistics.median(values)
+def median(values, unit="ms"):
+    return "%.4g %s" % (statistics.median(values), unit)
 
 
-def megabytes(values):
-    return "%.4g MB" % statistics.median(values)
+def shown(times):
+    scale, unit = (1, "ms") if min(times) >= 0.1 else (1000, "us")
+    return "%.4g [%.4g] %s" % (min(times) * scale, statistics.median(times) * scale, unit)
 
 
 class Results:
@@ -80,10 +81,11 @@ class Results:
         for path in glob.glob(os.path.join(folder, "*_bench.json")):
             with open(path, encoding="utf-8") as file:
                 for run in json.load(file)["benchmarks"]:
-                    if run["run_type"] == "iteration":
-                        self._take(run)
+                    self._take(run)
 
     def _take(self, run):
+        if run["run_type"] != "iteration":
+            return
         if run.get("error_occurred"):
             sys.exit("report: %s: %s" % (run["name"], run["error_message"]))
         name, unit, size = re.match(r"([^:]+)/(\w+):(\d+)", run["run_name"]).groups()
@@ -95,19 +97,14 @@ class Results:
     def compare(self, what, mine, title, other, goal="-"):
         times, others = (self.times[name][max(self.times[name])] for name in (mine, other))
         ratio = min(times) / min(others) if goal.startswith("<=") else min(others) / min(times)
-        return line(what, self.shown(times), title, self.shown(others), ratio, goal)
-
-    @staticmethod
-    def shown(times):
-        scale, unit = (1, "ms") if min(times) >= 0.1 else (1000, "us")
-        return "%.4g [%.4g] %s" % (min(times) * scale, statistics.median(times) * scale, unit)
+        return line(what, shown(times), title, shown(others), ratio, goal)
 
     def growth(self, name, goal):
         sizes = sorted(self.times[name])
         logarithms = [[math.log(size), math.log(min(self.times[name][size]))] for size in sizes]
         power = statistics.linear_regression(*zip(*logarithms)).slope
         measured = "%s %d-%d" % (self.unit[name], sizes[0], sizes[-1])
-        return line(name.removeprefix("Act/") + ", growth", self.shown(self.times[name][sizes[-1]]),
+        return line(name.removeprefix("Act/") + ", growth", shown(self.times[name][sizes[-1]]),
                     "flat" if goal == FLAT else "linear", measured, power, goal)
 
 
@@ -126,7 +123,7 @@ def benchmarks(folder, file_megabytes):
     for name in sorted(results.times):
         if name.startswith(("Complete/", "FindNothing/", "Leave/")):
             times = results.times[name][10_000]
-            yield line(name + ", 10,000 entries", results.shown(times), "milliseconds", "-", min(times), "<= 5")
+            yield line(name + ", 10,000 entries", shown(times), "milliseconds", "-", min(times), "<= 5")
     for name in sorted(results.times):
         if not name.startswith(("ReadPeer/", "WritePeer/")):
             yield results.growth(name, FLAT if name.startswith("Act/") else LINEAR)
@@ -147,39 +144,35 @@ def window(rounds, tables):
     def column(key, name, scale):
         return [one[key][name] * scale for one in rounds]
 
-    def compare(what, shown, values, title, others, goal):
+    def compare(what, values, title, others, goal):
         ratio = statistics.median(one / other for one, other in zip(values, others))
-        return line("Window: " + what, shown(values), title, shown(others), ratio, goal)
+        return line("Window: " + what, median(values), title, median(others), ratio, goal)
 
     for name, *goals in WINDOW_TIMES:
         for table, goal in zip(tables, goals):
             program, floor = (column(table + side, name, 1e3) for side in ("/program", "/floor"))
-            yield compare("%s, %s" % (name, table), milliseconds, program, "floor", floor, goal)
-    if "update" not in rounds[0]["limit/program"]:
-        return  # The floor stood in the program's place.
+            yield compare("%s, %s" % (name, table), program, "floor", floor, goal)
     for name in WINDOW_EDITS:
         typical, limit = (column(table + "/program", name, 1e3) for table in tables)
         for table, times in (("typical", typical), ("limit", limit)):
-            yield line("Window: %s, %s" % (name, table), milliseconds(times), "milliseconds", "-",
+            yield line("Window: %s, %s" % (name, table), median(times), "milliseconds", "-",
                        statistics.median(times), "<= 16")
-        yield compare(name + ", limit", milliseconds, limit, "typical", typical, "<= 2 x typical")
+        yield compare(name + ", limit", limit, "typical", typical, "<= 2 x typical")
     for table, name, title, goal in WINDOW_MEMORY:
         program, floor = column(table + "/program", name, 1e-6), column(table + "/floor", "memory", 1e-6)
         beyond = statistics.median(one - least for one, least in zip(program, floor))
-        yield line("Window: %s, %s" % (title, table), megabytes(program), "floor", megabytes(floor),
+        yield line("Window: %s, %s" % (title, table), median(program, "MB"), "floor", median(floor, "MB"),
                    beyond * 1e6 / tables[table], goal)
 
 
 def machine():
     with open("/proc/cpuinfo", encoding="utf-8") as file:
         model = re.search(r"model name\s*: (.*)|$", file.read()).group(1)
-    memory = os.sysconf("SC_PAGE_SIZE") * os.sysconf("SC_PHYS_PAGES")
-    return "%d cores, %s, %.1f GB of memory" % (os.cpu_count(), model, memory / 1e9)
+    gigabytes = os.sysconf("SC_PAGE_SIZE") * os.sysconf("SC_PHYS_PAGES") / 1e9
+    return "%d cores, %s, %.1f GB of memory" % (os.cpu_count(), model, gigabytes)
 
 
 def main():
-    if len(sys.argv) != 3:
-        sys.exit(__doc__)
     folder, tables_folder = sys.argv[1:]
     tables = {name: os.path.getsize(os.path.join(tables_folder, name + ".dat")) for name in ("typical", "limit")}
     lines = [("", "figure", "compared with", "its figure", "ratio", "goal", "met"),

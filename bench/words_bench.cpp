@@ -46,13 +46,9 @@ void GetWords(benchmark::State &pState, std::string (*pLineOf)(std::int64_t)) {
     }
 }
 
-void Configure(Passes::Benchmark *pBenchmark) {
-    Passes::Configure(pBenchmark, "bytes", Tables::byteCounts);
-}
-
 } // namespace
 
-BENCHMARK_CAPTURE(GetWords, fields, FieldsLine)->Apply(Configure);
-BENCHMARK_CAPTURE(GetWords, plain, PlainLine)->Apply(Configure);
-BENCHMARK_CAPTURE(GetWords, quotes, QuotesLine)->Apply(Configure);
-BENCHMARK_CAPTURE(GetWords, blanks, BlanksLine)->Apply(Configure);
+BENCHMARK_CAPTURE(GetWords, fields, FieldsLine)->Apply(Passes::ConfigureBytes);
+BENCHMARK_CAPTURE(GetWords, plain, PlainLine)->Apply(Passes::ConfigureBytes);
+BENCHMARK_CAPTURE(GetWords, quotes, QuotesLine)->Apply(Passes::ConfigureBytes);
+BENCHMARK_CAPTURE(GetWords, blanks, BlanksLine)->Apply(Passes::ConfigureBytes);

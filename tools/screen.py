@@ -13,7 +13,7 @@ import sys
 import tempfile
 import time
 
-TIMEOUT = 30  # seconds
+TIMEOUT = 30  # seconds; a sanitized build on a busy machine is slow
 WIDTH, HEIGHT = 1280, 900
 
 # By default openbox binds keys that programs want. This binds only the one that closes a window. The font is for
@@ -23,6 +23,17 @@ OPENBOX_SETTINGS = """<openbox_config xmlns="http://openbox.org/3.4/rc">
 <keyboard><keybind key="A-F4"><action name="Close"/></keybind></keyboard>
 </openbox_config>
 """
+
+
+def until(condition, what):
+    """Waits for condition to give something true, and returns that."""
+    deadline = time.monotonic() + TIMEOUT
+    while time.monotonic() < deadline:
+        result = condition()
+        if result:
+            return result
+        time.sleep(0.02)
+    raise AssertionError("not seen in %d s: %s" % (TIMEOUT, what))
 
 
 class Screen:
@@ -45,20 +56,27 @@ class Screen:
         self.close()
 
     def close(self):
-        for child in reversed(self.children):
-            child.terminate()
-            child.wait()
+        for child in reversed(list(self.children)):
+            self.end(child)
         shutil.rmtree(self.folder, ignore_errors=True)
 
-    def _start(self, words, **options):
-        self.children.append(subprocess.Popen(words, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
-                                              stderr=subprocess.DEVNULL, **options))
+    def start(self, words, **options):
+        """Starts a program that ends with the screen."""
+        child = subprocess.Popen(words, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
+                                 stderr=subprocess.DEVNULL, **options)
+        self.children.append(child)
+        return child
+
+    def end(self, child):
+        child.terminate()
+        child.wait()
+        self.children.remove(child)
 
     def _start_server(self, environment):
         read_end, write_end = os.pipe()
         # Without -noreset the server starts anew whenever its last client goes.
-        self._start(["Xvfb", "-displayfd", str(write_end), "-screen", "0", "%dx%dx24" % (WIDTH, HEIGHT),
-                     "-nolisten", "tcp", "-noreset"], pass_fds=[write_end])
+        self.start(["Xvfb", "-displayfd", str(write_end), "-screen", "0", "%dx%dx24" % (WIDTH, HEIGHT),
+                    "-nolisten", "tcp", "-noreset"], pass_fds=[write_end])
         os.close(write_end)
         with os.fdopen(read_end) as pipe:
             number = pipe.readline().strip()
@@ -75,14 +93,10 @@ class Screen:
             words += ["--sm-disable", "--config-file", settings]
         own = {name: value for name, value in environment.items() if not name.startswith("XDG_")}
         own["HOME"] = self.folder
-        self._start(words, env=own, cwd=self.folder)
+        self.start(words, env=own, cwd=self.folder)
         # A window shown while the window manager takes over may get lost.
-        deadline = time.monotonic() + TIMEOUT
         check = ["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"]
-        while b"window id" not in subprocess.run(check, env=environment, capture_output=True).stdout:
-            if time.monotonic() > deadline or self.children[-1].poll() is not None:
-                raise RuntimeError(manager + " has not started")
-            time.sleep(0.02)
+        until(lambda: b"window id" in subprocess.run(check, env=environment, capture_output=True).stdout, manager)
 
 
 def main():

@@ -10,7 +10,6 @@
 #include <QTableView>
 
 #include <cmath>
-#include <cstdio>
 #include <vector>
 
 namespace {
@@ -32,10 +31,9 @@ public:
     int columnCount(const QModelIndex & /*pParent*/ = {}) const override { return myColumns; }
 
     QVariant data(const QModelIndex &pIndex, int pRole) const override {
-        if (pRole != Qt::DisplayRole) {
-            return {};
-        }
-        return QString::asprintf("r%05d cell%d", pIndex.row(), pIndex.column()); // As long as most cells.
+        // As long as most cells.
+        return pRole == Qt::DisplayRole ? QString::asprintf("r%05d cell%d", pIndex.row(), pIndex.column())
+                                        : QVariant();
     }
 
     QVariant headerData(int pSection, Qt::Orientation /*pOrientation*/, int pRole) const override {
@@ -123,10 +121,6 @@ private:
 int main(int argc, char **argv) {
     QApplication application(argc, argv);
     const QStringList words = QApplication::arguments();
-    if (words.size() != 3) {
-        std::fputs("Usage: floor_window ROWS PERCENT[,PERCENT...]\n", stderr);
-        return 1;
-    }
     FloorWindow window(words[1].toInt(), words[2].split(QLatin1Char(',')));
     window.show();
     return QApplication::exec();

@@ -4,7 +4,6 @@ for it. Needs Debian's python3-xlib and what tools/screen.py needs."""
 
 import os
 import select
-import subprocess
 import sys
 import time
 
@@ -13,20 +12,14 @@ from Xlib.ext import damage
 
 sys.path.append(os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", ".."))
 
-import tools.screen
-from tools.screen import HEIGHT, WIDTH
+from tools.screen import HEIGHT, TIMEOUT, WIDTH, Screen as EmptyScreen, until
 
-TIMEOUT = 60  # seconds, for anything to be seen at all
 QUIET_AT_START = 0.25  # seconds without damage after which a picture counts as the final one
 QUIET = 0.12
 IDLE = 0.003  # seconds of the processor's that a program may take in that time and still count as done
 
 
-class NotSeen(Exception):
-    """Something that was to be measured did not happen."""
-
-
-class Screen(tools.screen.Screen):
+class Screen(EmptyScreen):
     def __init__(self):
         # No bus: the toolkit would start one, which is not the program's time.
         self.environment = {name: value for name, value in os.environ.items() if not name.startswith(("QT_", "XDG_"))}
@@ -42,17 +35,6 @@ class Screen(tools.screen.Screen):
         self.root.change_attributes(event_mask=X.SubstructureNotifyMask)
         self.manager = self._owner(self._property(self.root, "_NET_SUPPORTING_WM_CHECK"))
 
-    def run(self, *words):
-        child = subprocess.Popen(words, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, env=self.environment,
-                                 cwd=self.folder)
-        self.children.append(child)
-        return child
-
-    def end(self, child):
-        child.terminate()
-        child.wait()
-        self.children.remove(child)
-
     def _property(self, window, name):
         found = window.get_full_property(self.display.intern_atom(name), X.AnyPropertyType)
         return found.value[0] if found and len(found.value) else None
@@ -65,15 +47,6 @@ class Screen(tools.screen.Screen):
         """The window that has the keyboard, or None."""
         number = self._property(self.root, "_NET_ACTIVE_WINDOW")
         return self.display.create_resource_object("window", number) if number else None
-
-    def until(self, condition, what):
-        end = time.monotonic() + TIMEOUT
-        while time.monotonic() < end:
-            result = condition()
-            if result:
-                return result
-            time.sleep(0.01)
-        raise NotSeen("not seen in %d s: %s" % (TIMEOUT, what))
 
     def listen(self, seconds):
         """Takes in what the server says. Waits that long for the first of it."""
@@ -103,9 +76,7 @@ class Screen(tools.screen.Screen):
 
     def type(self, text):
         for letter in text:
-            needs_shift = letter == "_" or letter.isupper()
-            self.stroke(*(["Shift_L"] if needs_shift else []), letter)
-        self.display.flush()
+            self.stroke(letter)
 
 
 class Started:
@@ -120,20 +91,15 @@ class Started:
         screen.damaged.clear()
         screen.created.clear()
         begin = time.perf_counter()
-        self.process = screen.run(*words)
+        self.process = screen.start(words, env=screen.environment, cwd=screen.folder)
         self.start_time = self._wait(screen.created, begin, QUIET_AT_START, must_paint=True) - begin
-        self.window = screen.until(self._active_of_created, "the window of " + words[0])
-        place = self.window.get_geometry()
-        self.width, self.height = place.width, place.height
-        corner = screen.root.translate_coords(self.window, 0, 0)
-        self.left, self.top = corner.x, corner.y
+        self.window = until(self._active_of_created, "the window of " + words[0])
+        self.size = self.window.get_geometry()
+        self.corner = screen.root.translate_coords(self.window, 0, 0)
 
     def _active_of_created(self):
         active = self.screen.active()
         return active if active and active.id in self.screen.created else None
-
-    def end(self):
-        self.screen.end(self.process)
 
     def _processor_time(self):
         """Seconds that all its threads have run."""
@@ -148,7 +114,7 @@ class Started:
         while time.perf_counter() < begin + TIMEOUT:
             self.screen.listen(since + quiet - time.perf_counter())
             if self.process.poll() is not None:
-                raise NotSeen("the program has ended")
+                raise AssertionError("the program has ended")
             seen = max((self.screen.damaged[one] for one in windows if one in self.screen.damaged), default=None)
             if seen != last:
                 last = since = seen
@@ -158,7 +124,7 @@ class Started:
                 if used - before < IDLE and (last or not must_paint):
                     return last
                 since = time.perf_counter()
-        raise NotSeen("nothing painted in %d s" % TIMEOUT)
+        raise AssertionError("nothing painted in %d s" % TIMEOUT)
 
     def settle(self):
         """Waits until nothing more comes of what was done."""
@@ -166,38 +132,26 @@ class Started:
         self.screen.damaged.clear()
         self._wait([self.window.id], time.perf_counter(), QUIET, must_paint=False)
 
-    def time(self):
-        """Seconds from the requests that wait to be sent to the final picture of the window."""
+    def time(self, *names):
+        """Seconds from the requests that wait to be sent, and these keys, to the final picture of the window."""
+        self.screen.stroke(*names)
         self.screen.damaged.clear()
         begin = time.perf_counter()
         self.screen.display.flush()
         return self._wait([self.window.id], begin, QUIET, must_paint=True) - begin
 
-    def time_key(self, name):
-        self.screen.stroke(name)
-        return self.time()
-
     def key(self, *names):
         self.screen.stroke(*names)
         self.settle()
 
-    def point(self, x, y):
-        self.screen.fake(X.MotionNotify, x=self.left + x, y=self.top + y)
-        self.settle()
-
-    def click(self, x, y):
-        self.point(x, y)
-        self.screen.fake(X.ButtonPress, 1)
-        self.screen.fake(X.ButtonRelease, 1)
-        self.settle()
-
-    def time_button(self, x, y):
-        """The time from the mouse button's release, which is what presses a button of the window."""
-        self.point(x, y)
+    def press(self, x, y):
+        """Presses the mouse button there. That picks a row; a button of the window acts when it is released."""
+        self.screen.fake(X.MotionNotify, x=self.corner.x + x, y=self.corner.y + y)
         self.screen.fake(X.ButtonPress, 1)
         self.settle()
+
+    def release(self):
         self.screen.fake(X.ButtonRelease, 1)
-        return self.time()
 
     def time_size(self, width, height):
         self.window.configure(width=width, height=height)

@@ -15,7 +15,7 @@ import statistics
 import sys
 import time
 
-from screen import NotSeen, Screen, Started
+from screen import Screen, Started, until
 
 SAMPLES = 3  # of an act in each run, after one that warms up; their median counts
 GROWTH = 6  # pixels that one step of a drag adds
@@ -31,9 +31,8 @@ def words_of(options, table):
         rows = lines.readline().split(",")[0]
     with open(specification, encoding="utf-8", newline="") as lines:
         percents = ",".join(row[1] for row in list(csv.reader(lines))[1:])
-    floor = [options.floor, rows, percents]
-    program = floor if options.same else [options.program, specification, file]
-    return {table + "/program": program, table + "/floor": floor}
+    return {table + "/program": [options.program, specification, file],
+            table + "/floor": [options.floor, rows, percents]}
 
 
 def middle(act, undo=lambda: None):
@@ -49,25 +48,26 @@ def edits(run):
     """The times of the edits. Each series leaves as many records as there were."""
     times = {name: [] for name in EDITS}
     for _ in range(1 + SAMPLES):
-        run.click(*LOWER_ROW)
+        run.press(*LOWER_ROW)
+        run.release()
         for name, button in EDITS.items():
-            times[name].append(run.time_button(*button))
+            run.press(*button)
+            run.release()
+            times[name].append(run.time())
     return {name: statistics.median(one[1:]) for name, one in times.items()}
 
 
-def save(run):
-    """Saves under a new name. Returns the most memory that was in use until then."""
-    path = os.path.join(run.screen.folder, "saved.dat")
+def save(run, folder):
+    """Saves under a new name in the folder of the table. Returns the most memory that was in use until then."""
+    path = os.path.join(folder, "saved.dat")
     run.key("Alt_L", "a")
-    run.screen.until(lambda: run.screen.active() not in (None, run.window), "the file dialog")
+    until(lambda: run.screen.active() not in (None, run.window), "the file dialog")
     run.settle()
-    run.key("Control_L", "a")
-    run.screen.type(path)
+    run.screen.type("saved.dat")  # Over the offered name, which is selected.
     run.settle()
     run.key("Return")
-    run.screen.until(lambda: run.screen.active() == run.window, "the dialog's end")
+    until(lambda: run.screen.active() == run.window and os.path.exists(path), "the saved file")
     run.settle()
-    run.screen.until(lambda: os.path.exists(path), "the saved file")
     os.remove(path)
     return run.peak_memory()
 
@@ -78,19 +78,20 @@ def measure(screen, words, takes_edits):
     run = Started(screen, words)
     # Rows draw a grid, so there are two colours at least as soon as rows are there.
     if run.inks(*ROWS_AREA) < 2:
-        raise NotSeen("no records in the final picture")
+        sys.exit("no records in the final picture")
     values = {"start": run.start_time, "memory": run.peak_memory()}
-    run.click(*FIRST_ROW)
-    values["down"] = middle(lambda: run.time_key("Down"))
-    values["page down"] = middle(lambda: run.time_key("Next"))
-    sizes = itertools.cycle([(run.width + GROWTH, run.height + GROWTH), (run.width, run.height)])
+    run.press(*FIRST_ROW)
+    run.release()
+    values["down"] = middle(lambda: run.time("Down"))
+    values["page down"] = middle(lambda: run.time("Next"))
+    sizes = itertools.cycle([(run.size.width + GROWTH, run.size.height + GROWTH), (run.size.width, run.size.height)])
     values["resize"] = middle(lambda: run.time_size(*next(sizes)))
     run.key("Tab")
-    values["letter"] = middle(lambda: run.time_key("x"), lambda: run.key("BackSpace"))
+    values["letter"] = middle(lambda: run.time("x"), lambda: run.key("BackSpace"))
     if takes_edits:
         values.update(edits(run))
-        values["memory after saving"] = save(run)
-    run.end()
+        values["memory after saving"] = save(run, os.path.dirname(words[-1]))
+    screen.end(run.process)
     return values
 
 
@@ -99,8 +100,6 @@ def main():
     for name in ("program", "floor", "tables", "figures"):
         parser.add_argument(name, type=os.path.abspath)
     parser.add_argument("--rounds", type=int, default=21)
-    parser.add_argument("--same", action="store_true",
-                        help="start the floor in the program's place too, to see how far the ratios can be trusted")
     options = parser.parse_args()
     words = {**words_of(options, "typical"), **words_of(options, "limit")}
     rounds = []
@@ -110,8 +109,7 @@ def main():
             rounds.append({})
             # In the opposite order each time: to be started first may be a burden or a help.
             for key in sorted(words, reverse=number % 2 == 1):
-                takes_edits = key.endswith("/program") and not options.same
-                rounds[-1][key] = measure(screen, words[key], takes_edits)
+                rounds[-1][key] = measure(screen, words[key], takes_edits=key.endswith("/program"))
     with open(options.figures, "w", encoding="utf-8") as file:
         json.dump(rounds, file, indent=1)
 

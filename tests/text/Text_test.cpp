@@ -14,7 +14,8 @@ TEST(Text, ComparisonsIgnoreCaseAndNothingElse) {
         EXPECT_TRUE(BeginsWithIgnoringCase(text, start)) << text << ": " << start;
         EXPECT_FALSE(EqualIgnoringCase(text, start)) << text << ": " << start;
     }
-    EXPECT_FALSE(BeginsWithIgnoringCase(std::string_view("\u00C9").substr(0, 1), "é")) << "reads past the end";
+    EXPECT_FALSE(BeginsWithIgnoringCase(std::string_view("\u00C9").substr(0, 1), "é"))
+        << "reads past the end";
     // A byte of a character is no beginning of it, nor is a stray byte the character of its number.
     for (const char *start : {"e", "élan v", "\xC3", "\xE9", "lan"}) {
         EXPECT_FALSE(BeginsWithIgnoringCase("Élan", start)) << start;

@@ -9,7 +9,6 @@ import shutil
 import subprocess
 import sys
 import tempfile
-import time
 import traceback
 import warnings
 
@@ -19,23 +18,11 @@ gi.require_version("Atspi", "2.0")
 sys.path.append(str(pathlib.Path(__file__).resolve().parents[2]))
 
 from gi.repository import Atspi
-from tools.screen import Screen
+from tools.screen import TIMEOUT, Screen, until
 
 warnings.simplefilter("ignore", DeprecationWarning)  # the names that Debian 12's bindings still need
 
 TITLE = "Norvo Data File Editor"
-TIMEOUT = 30  # seconds; a sanitized build on a busy machine is slow
-
-
-def until(condition, what):
-    """Waits for condition to give something true, and returns that."""
-    deadline = time.monotonic() + TIMEOUT
-    while time.monotonic() < deadline:
-        result = condition()
-        if result:
-            return result
-        time.sleep(0.02)
-    raise AssertionError("not seen in %d s: %s" % (TIMEOUT, what))
 
 
 def run(*words):
