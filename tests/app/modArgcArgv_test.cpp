@@ -5,20 +5,14 @@
 #include <gtest/gtest.h>
 
 TEST(ArgcArgv, SplitTheCommandTextAtBlanksAndQuotes) {
-    // Each word with a bar in front of it. The last rows are made of words, and give them back.
+    // A bar stands before each word. The last two rows are made of words, and give them back.
+    // clang-format off
     const std::pair<std::string, const char *> cases[] = {
-        {"", ""},
-        {"   ", ""},
-        {"a   b", "|a|b"},
-        {R"("a b" c)", "|a b|c"},
-        {R"("a"b)", "|a|b"},
-        {R"(a"b c"d)", "|ab|cd"},
-        {R"("" a)", "||a"},
-        {R"("a b)", "|a b"},
-        {R"(a ")", "|a|"},
-        {"a\tb", "|a\tb"},
-        {CommandText({}), ""},
+        {"", ""},               {"   ", ""},      {"a   b", "|a|b"},              {R"("a b" c)", "|a b|c"},
+        {R"("a"b)", "|a|b"},    {"a\tb", "|a\tb"}, {R"(a"b c"d)", "|ab|cd"},      {R"("" a)", "||a"},
+        {R"("a b)", "|a b"},    {R"(a ")", "|a|"}, {CommandText({}), ""},
         {CommandText({"a", "", "b c", " ", "d\te"}), "|a||b c| |d\te"}};
+    // clang-format on
     for (const auto &[command, wanted] : cases) {
         std::string words;
         for (int i = 1; i <= modArgcArgv::argc(command); ++i) {

@@ -1,4 +1,5 @@
-// Files and leaving.
+// Opening, saving and leaving.
+#include "platform/Controls.h"
 #include "tests/support/Program.h"
 
 #ifdef __linux__
@@ -10,82 +11,64 @@
 const std::string caption = "Norvo Data File Editor";
 
 TEST(Opening, ShowsTheRecordsOrOneMessage) {
-    const std::string wrong = " is not in the correct format. It has ";
-    const std::string spec = " columns.\n\nSpecification {}\\NorvoEditDat.dat is for 3 column data files.";
-    const std::tuple<const char *, const char *, std::string> cases[] = {
+    Program program;
+    const std::string spec = program.Start().Files().Path() + "\\NorvoEditDat.dat";
+    const auto wrongColumns = [&](const std::string &pCount) {
+        return " is not in the correct format. It has " + pCount + " columns.\n\nSpecification " + spec +
+               " is for 3 column data files.";
+    };
+    const std::tuple<const char *, std::string, std::string> cases[] = {
         {"2,3\na,b,c\nd,e,f\n", "  a|b|c\n  d|e|f\n", ""},
         {"3,3\na,b,c\nd,e\nf,g,h\n", "  a|b|c\n  ||\n  ||\n", ""},
         {"3,3\na,b,c\n", "  a|b|c\n",
          " is too short. Its first line announces 3 records, but it holds only 1."},
         {"32768,3\n", "", " announces 32768 records. A table holds at most 32767, so none were read."},
         {"x,3\na,b,c\n", "", " doesn't begin with the number of its records, so none were read."},
-        {"5,4\na,b,c,d\n", "", wrong + "4" + spec},
-        {"", "", wrong + "0" + spec}};
-    for (auto [bytes, rows, message] : cases) {
-        Program program;
+        {"5,4\na,b,c,d\n", "", wrongColumns("4")},
+        {"", "", wrongColumns("0")}};
+    for (const auto &[bytes, rows, message] : cases) {
         const std::string name = program.Files().Write("new.dat", CrLf(bytes));
-        program.Start().Press("Add"); // a row that goes, whatever the file
+        program.Press("Add"); // Each file replaces this row.
         program.Script().ExpectOpen(name);
-        if (const std::size_t at = message.find("{}"); at != std::string::npos) {
-            message.replace(at, 2, program.Files().Path());
-        }
         if (!message.empty()) {
             program.Script().Expect({"File " + name + message, MessageButtons::Ok, caption});
         }
         EXPECT_EQ(program.Choose("FileOpen").Rows(), rows) << bytes;
-        EXPECT_EQ(program.Buttons().find("(Save As)") != std::string::npos, *rows == '\0') << bytes;
+        EXPECT_EQ(program.Buttons().find("(Save As)") != std::string::npos, rows.empty()) << bytes;
     }
     Program titles; // The titles come from the specification, so a file without records fits.
     EXPECT_EQ(titles.Start("/csvh " + titles.Files().Write("t.csv", "x\r\n")).Rows(), "");
-    // A CSV file whose first line has no words ends the program.
-    Program csv;
+    Program csv; // A CSV file whose first line has no words ends the program.
     csv.Script().Expect({"clsDatFile.Cols out of bounds ( 0)", MessageButtons::Ok, "NorvoEditDat"});
     EXPECT_EQ(csv.Start("/csv " + csv.Files().Write("a.csv", "\"a\r\n")).ExitStatus(), 1);
 }
 
 TEST(Opening, TakesANameThatIsNotThereForANewFile) {
     Program program;
-    program.Start().Type("Name", "Ann").Press("Add").Pick(0);
-    program.Script().ExpectOpen({}); // dismissed
-    program.Choose("FileOpen");
+    program.Start().Type("Name", "Ann").Press("Add").Pick(0).Open({}); // dismissed
     EXPECT_EQ(program.Rows(), "> Ann||\n");
     EXPECT_EQ(program.Script().Dialogs().back().pattern, "*.dat");
-    program.Script().ExpectOpen(program.Files().File("new.dat"));
-    program.Choose("FileOpen");
-    // No row is selected now, so the update has nowhere to go and the fields keep what they hold.
-    program.Press("Update");
-    EXPECT_EQ(program.Window(), caption + "\nName[Ann] City[] Kind[]\n" +
-                                    "Add (Move Up) (Delete) (Move Down) (Save As) Cancel\n");
-    program.Press("Add").SaveAs(program.Files().File("new.dat"));
-    EXPECT_EQ(program.Script().Dialogs().back().folder + program.Script().Dialogs().back().name,
-              program.Files().File("new.dat"));
+    // After opening, no row is selected. The update then changes none, and the fields keep their texts.
+    const std::string name = program.Files().File("new.dat");
+    EXPECT_EQ(program.Open(name).Press("Update").Window(),
+              caption + "\nName[Ann] City[] Kind[]\nAdd (Move Up) (Delete) (Move Down) (Save As) Cancel\n");
+    program.Press("Add").SaveAs(name);
+    EXPECT_EQ(program.Script().Dialogs().back().folder + program.Script().Dialogs().back().name, name);
     EXPECT_EQ(program.Files().Read("new.dat"), "1,3\r\n\"Ann\",\"\",\"\"\r\n");
 }
 
 TEST(Saving, WritesTheListAndChangesNothingElse) {
     Program program;
     program.StartOn("2,3\nAnn,Rome,Apple\n\"B\"\"ob\",x,\"a,b\"\n").Pick(0);
-    const std::string before = program.Choose("FileOpen").Window(); // not offered here
+    const std::string before = program.Choose("FileOpen").Window(); // disabled after a start on a file
     program.SaveAs({}).SaveAs(program.Files().File("copy.csv")).SaveAs({});
     EXPECT_EQ(program.Window(), before);
-    EXPECT_TRUE(program.Files().Read("data.dat").starts_with("2,3\r\nAnn,")); // as a dismissal leaves it
-    EXPECT_EQ(program.Files().Read("copy.csv"), // The form goes by the command line alone.
+    EXPECT_TRUE(program.Files().Read("data.dat").starts_with("2,3\r\nAnn,")); // The first save was dismissed.
+    EXPECT_EQ(program.Files().Read("copy.csv"), // The command line alone decides the format.
               "2,3\r\n\"Ann\",\"Rome\",\"Apple\"\r\n\"B\"\"ob\",\"x\",\"a,b\"\r\n");
-    std::string offered;
-    for (const FileDialogRequest &dialog : program.Script().Dialogs()) {
-        offered += dialog.description + "|" + dialog.pattern + "|" + dialog.name + " ";
-    }
-    EXPECT_EQ(offered,
-              "Data (*.dat)|*.dat|data.dat Data (*.dat)|*.dat|data.dat Data (*.dat)|*.dat|copy.csv ");
-}
-
-TEST(Saving, OffersTheWholePathWhenItsFolderIsGone) {
-    Program program;
-    const std::string name = program.Files().Write("sub/f.dat", "0,3\r\n");
-    program.Start(name).Press("Add");
-    std::filesystem::remove_all(program.Files().File("sub"));
-    program.SaveAs({}); // Elsewhere the bare name would be another file.
-    EXPECT_EQ(program.Script().Dialogs().back().folder + program.Script().Dialogs().back().name, name);
+    const FileDialogRequest &offered = program.Script().Dialogs().back();
+    EXPECT_EQ(offered.description + "|" + offered.pattern + "|" + offered.name,
+              "Data (*.dat)|*.dat|copy.csv");
 }
 
 #ifdef __linux__
@@ -101,13 +84,15 @@ TEST(Saving, TellsAFailureOnceAndKeepsTheRecords) {
     };
     const std::string kept = ". The records are still in the list.";
     const std::string pipe = program.Files().File("pipe");
-    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0); // Nobody reads it: who opens it waits.
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0); // Nobody reads it: a writer that waits hangs.
     fails(pipe, "Not a regular file" + kept);
     fails(program.Files().Path(), "Is a directory" + kept);
-    fails(program.Files().File("no/folder.dat"), "No such file or directory" + kept);
+    const std::string lost = program.Files().File("no/folder.dat");
+    fails(lost, "No such file or directory" + kept);
     fails("/dev/full", "No space left on device" + kept);
-    // A file that can't grow, at any byte of it.
-    std::signal(SIGXFSZ, SIG_IGN); // as the program itself has it
+    EXPECT_EQ(program.Script().Dialogs().back().name, lost) << "the bare name is another file elsewhere";
+    // A file that can't grow beyond a limit, at any byte of it.
+    std::signal(SIGXFSZ, SIG_IGN); // The program itself ignores it too.
     rlimit before{};
     getrlimit(RLIMIT_FSIZE, &before);
     for (std::size_t size = 0; size < whole.size(); ++size) {
@@ -134,7 +119,11 @@ TEST(Leaving, AsksOnEveryWayButTheCloseBox) {
     EXPECT_EQ(program.Type("City", "Rome").Press("Cancel").ExitStatus(), 0);
     EXPECT_TRUE(program.Script().Shown().empty());
 
-    Program other; // The About box stays when the window is closed, and the program with it.
-    EXPECT_EQ(other.Start().Choose("HelpAbout").CloseWindow().ExitStatus(), std::nullopt);
+    Program other; // The About box, and with it the program, outlives the main window.
+    const Form &box = *other.Start().Choose("HelpAbout").Script().Shown().back();
+    const auto &version = dynamic_cast<const Label &>(box.Controls("lblVersion"));
+    EXPECT_EQ(box.Caption() + " " + version.Caption(),
+              "About " + caption + " " + versionRecord::FileVersion());
+    EXPECT_EQ(other.CloseWindow().ExitStatus(), std::nullopt);
     EXPECT_EQ(other.Press("OK").ExitStatus(), 0);
 }

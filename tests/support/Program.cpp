@@ -2,62 +2,59 @@
 
 #include "platform/ComboBox.h"
 #include "platform/Controls.h"
-#include "platform/ListView.h"
+#include "platform/KeyCodes.h"
 
-#include <cctype>
+#include <algorithm>
 #include <regex>
 #include <stdexcept>
 #include <vector>
 
 namespace {
 
-/// The caption, without its mark of the key, or for a picture the tooltip.
+/// The controls of this kind, in tab order.
+template <typename Kind> std::vector<Kind *> AllOf(const Form &pForm) {
+    std::vector<Kind *> all;
+    for (const auto &control : pForm.Controls()) {
+        if (auto *const found = dynamic_cast<Kind *>(control.get())) {
+            all.push_back(found);
+        }
+    }
+    std::ranges::stable_sort(all, {}, [](const Kind *pControl) { return pControl->TabIndex(); });
+    return all;
+}
+
+/// The caption without the mark of the access key. A button that shows a picture goes by its tooltip.
 std::string NameOf(const CommandButton &pButton) {
     std::string name = pButton.Caption().empty() ? pButton.ToolTipText() : pButton.Caption();
     std::erase(name, '&');
     return name;
 }
 
-/// The button of this name on the forms on screen, the topmost first.
-CommandButton &Button(const ScriptedDesktop &pDesktop, const std::string &pName) {
-    for (auto form = pDesktop.Shown().rbegin(); form != pDesktop.Shown().rend(); ++form) {
-        for (const auto &control : (*form)->Controls()) {
-            auto *found = dynamic_cast<CommandButton *>(control.get());
-            if (found != nullptr && NameOf(*found) == pName) {
-                return *found;
-            }
+/// The heading, as assistive technology reads it out.
+std::string NameOf(const TextField &pField) {
+    return pField.AccessibleName();
+}
+
+/// The control of this kind and name on the form that was shown last.
+template <typename Kind> Kind &Named(const ScriptedDesktop &pDesktop, const std::string &pName) {
+    for (Kind *const control : AllOf<Kind>(*pDesktop.Shown().back())) {
+        if (NameOf(*control) == pName) {
+            return *control;
         }
     }
-    throw std::logic_error("Nothing on the screen is named " + pName);
+    throw std::logic_error("The window on top has nothing named " + pName);
 }
 
-void PressKey(ComboBox &pBox, int pKey, const std::string &pInserts) {
-    const auto from = static_cast<std::size_t>(pBox.SelStart());
-    std::string text = pBox.Text();
-    text.replace(from, static_cast<std::size_t>(pBox.SelLength()), pInserts);
-    pBox.UserPressesKey(pKey);
-    pBox.UserEdits(text, static_cast<int>(from + pInserts.size()));
-    pBox.UserReleasesKey(pKey, 0);
-}
-
-void TypeOver(ComboBox &pBox, const std::string &pText) {
-    pBox.UserSelects(0, static_cast<int>(pBox.Text().size()));
-    PressKey(pBox, 46, ""); // Del
-    for (const char character : pText) {
-        PressKey(pBox, std::toupper(character), std::string(1, character));
+/// The user selects what the field holds and types pText. A combo box gets it by one key, whose release may
+/// complete the text.
+void TypeOver(TextField &pField, const std::string &pText) {
+    if (auto *const box = dynamic_cast<ComboBox *>(&pField)) {
+        box->UserPressesKey(pText.empty() ? keyCode::del : keyCode::letterA);
+        box->UserEdits(pText, static_cast<int>(pText.size()));
+        box->UserReleasesKey(keyCode::letterA, 0);
+    } else {
+        dynamic_cast<TextBox &>(pField).UserEdits(pText);
     }
-}
-
-/// The fields with their headings, from the left.
-std::vector<std::pair<std::string, TextField *>> FieldsOf(const Form &pForm) {
-    std::vector<std::pair<std::string, TextField *>> fields;
-    for (const auto &control : pForm.Controls()) {
-        if (const auto *label = dynamic_cast<const Label *>(control.get())) {
-            auto &field = pForm.Controls("cbo" + label->Name().substr(3));
-            fields.emplace_back(label->Caption().substr(1), &dynamic_cast<TextField &>(field));
-        }
-    }
-    return fields;
 }
 
 } // namespace
@@ -67,11 +64,7 @@ std::string CrLf(std::string_view pText) {
 }
 
 Program::Program(std::string pExeName) : myExeName(std::move(pExeName)) {
-    myFiles.Write(myExeName + ".dat", CrLf(R"(3,4
-"Name","50","0","-"
-"City","30","1","cities.txt"
-"Kind","20","2","kinds.txt"
-)"));
+    myFiles.Write(myExeName + ".dat", CrLf("3,4\nName,50,0,-\nCity,30,1,cities.txt\nKind,20,2,kinds.txt\n"));
     myFiles.Write("cities.txt", CrLf("Paris\nRome\n"));
     myFiles.Write("kinds.txt", CrLf("Abacus\nApple\nBanana\n"));
 }
@@ -105,24 +98,17 @@ Program &Program::At(Control &pControl, const std::function<void()> &pAct) {
 }
 
 Program &Program::Type(const std::string &pHeading, const std::string &pText) {
-    for (const auto &[heading, field] : FieldsOf(Main())) {
-        if (auto *box = dynamic_cast<ComboBox *>(field); box != nullptr && heading == pHeading) {
-            At(*box, [&] { TypeOver(*box, pText); });
-        } else if (heading == pHeading) {
-            At(*field, [&, &text = dynamic_cast<TextBox &>(*field)] { text.UserEdits(pText); });
-        }
-    }
-    return *this;
+    auto &field = Named<TextField>(myScript, pHeading);
+    return At(field, [&] { TypeOver(field, pText); });
 }
 
 Program &Program::Press(const std::string &pButton) {
-    CommandButton &button = Button(myScript, pButton);
+    auto &button = Named<CommandButton>(myScript, pButton);
     return At(button, [&] { button.Press(); });
 }
 
 Program &Program::Pick(int pRow) {
-    auto &list = dynamic_cast<ListView &>(Main().Controls("ListView1"));
-    return At(list, [&] { list.Pick(pRow + 1); });
+    return At(List(), [&] { List().Pick(pRow + 1); });
 }
 
 Program &Program::Choose(const std::string &pEntry) {
@@ -131,18 +117,17 @@ Program &Program::Choose(const std::string &pEntry) {
 
 std::string Program::Fields() const {
     std::string text;
-    for (const auto &[heading, field] : FieldsOf(Main())) {
-        text += (text.empty() ? "" : " ") + heading + "[" + field->Text() + "]";
+    for (const TextField *const field : AllOf<TextField>(Main())) {
+        text += (text.empty() ? "" : " ") + NameOf(*field) + "[" + field->Text() + "]";
     }
     return text;
 }
 
 std::string Program::Rows() const {
-    const auto &list = dynamic_cast<const ListView &>(Main().Controls("ListView1"));
     std::string text;
-    for (int i = 1; i <= list.ListItems.Count(); ++i) {
-        const ListItem &item = list.ListItems(i);
-        text += (i == list.SelectedIndex() ? "> " : "  ") + std::string(item.Text());
+    for (int i = 1; i <= List().ListItems.Count(); ++i) {
+        const ListItem &item = List().ListItems(i);
+        text += (i == List().SelectedIndex() ? "> " : "  ") + std::string(item.Text());
         for (int c = 1; c <= item.SubItemCount(); ++c) {
             text += "|" + std::string(item.SubItems(c));
         }
@@ -153,11 +138,9 @@ std::string Program::Rows() const {
 
 std::string Program::Buttons() const {
     std::string text;
-    for (const auto &control : Main().Controls()) {
-        if (const auto *button = dynamic_cast<const CommandButton *>(control.get())) {
-            const std::string name = NameOf(*button);
-            text += (text.empty() ? "" : " ") + (button->Enabled() ? name : "(" + name + ")");
-        }
+    for (const CommandButton *const button : AllOf<CommandButton>(Main())) {
+        const std::string name = NameOf(*button);
+        text += (text.empty() ? "" : " ") + (button->Enabled() ? name : "(" + name + ")");
     }
     return text;
 }

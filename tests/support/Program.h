@@ -1,9 +1,10 @@
 #pragma once
-/// The whole program under the user's hands: it starts on a command line, takes the user's verbs one after
-/// another as a desktop would pass them on, and shows its window as text. Its folder is a fresh one, in which
-/// the test puts the files; messages and file dialogs go by the script.
+/// Runs the whole program as a user does: it starts on a command line, takes the user's verbs one after
+/// another as a desktop passes them on, and shows its window as text. It has a fresh folder of its own, into
+/// which the test writes files. The script answers messages and file dialogs.
 #include "app/VersionRecord.h"
 #include "app/modMain.h"
+#include "platform/ListView.h"
 #include "platform/Runtime.h"
 #include "tests/support/ScriptedDesktop.h"
 #include "tests/support/TemporaryFolder.h"
@@ -14,7 +15,7 @@
 #include <string>
 #include <string_view>
 
-/// pText with each LF made CR LF, as tables and list files end their lines.
+/// pText with CR LF in place of each LF, as tables and list files end their lines.
 std::string CrLf(std::string_view pText);
 
 class Program {
@@ -30,20 +31,24 @@ public:
 
     /// Starts the program on this command text.
     Program &Start(const std::string &pCommand = "");
-    /// Starts it on the file "data.dat" of this text, its lines ended by LF here.
+    /// Starts it on the file "data.dat", which gets this text. LF ends a line in pText, CR LF in the file.
     Program &StartOn(std::string_view pText) { return Start(myFiles.Write("data.dat", CrLf(pText))); }
 
-    // The verbs. What would take the focus from a field that refuses to lose it isn't carried out.
-    /// Types pText (letters, digits, blanks) into the field under pHeading in place of what it holds, key by
-    /// key.
+    // The verbs. One that needs the focus has no effect while a field refuses to lose it.
+    /// Replaces the text of the field under pHeading by pText (ASCII).
     Program &Type(const std::string &pHeading, const std::string &pText);
-    /// Presses the button of that caption or, for one that shows a picture, that tooltip.
+    /// Presses the button with that caption, or that tooltip if it shows a picture.
     Program &Press(const std::string &pButton);
     /// Picks row pRow of the list, from 0.
     Program &Pick(int pRow);
-    /// Chooses the menu entry of that menu and caption, such as "FileOpen".
+    /// Chooses a menu entry by menu and caption, such as "FileOpen".
     Program &Choose(const std::string &pEntry);
-    /// Presses Save As and gives pPath in the dialog; nothing dismisses it.
+    /// Chooses File Open and gives pPath in the dialog, or dismisses it without a path.
+    Program &Open(const std::optional<std::string> &pPath) {
+        myScript.ExpectOpen(pPath);
+        return Choose("FileOpen");
+    }
+    /// The same for Save As.
     Program &SaveAs(const std::optional<std::string> &pPath) {
         myScript.ExpectSave(pPath);
         return Press("Save As");
@@ -55,8 +60,8 @@ public:
         return Act([&] { Main().UserCloses(); });
     }
 
-    /// The main window: its caption, its fields, the rows with the selected one marked, and the buttons,
-    /// those in parentheses disabled.
+    /// The main window: its caption, its fields, the rows with the selected one marked, and the buttons, with
+    /// disabled ones in parentheses.
     std::string Window() const {
         return Main().Caption() + "\n" + Fields() + "\n" + Rows() + Buttons() + "\n";
     }
@@ -64,9 +69,10 @@ public:
     std::string Rows() const;
     std::string Buttons() const;
 
-    /// The main window's form, also after it was closed.
+    /// The main window's form. It stays after the window is closed.
     Form &Main() const { return *myForm; }
-    /// What the program ended with; nothing while it runs.
+    ListView &List() const { return dynamic_cast<ListView &>(Main().Controls("ListView1")); }
+    /// The program's exit status; nothing while it runs.
     std::optional<int> ExitStatus() const { return myExitStatus; }
 
 private:

@@ -1,7 +1,7 @@
 #pragma once
-/// The desktop of the tests: it answers messages and file dialogs by a script that the test queues
-/// beforehand, and remembers what was shown and opened. Whatever comes without being expected, in another
-/// order or with another text fails the test; so does an answer that is left over when the desktop goes.
+/// The desktop of the tests. A test queues beforehand which messages and file dialogs it expects and how the
+/// user answers them. A message or dialog that wasn't expected, that comes in another order or with another
+/// text, fails the test. So does one that never comes.
 #include "platform/Desktop.h"
 
 #include <gtest/gtest.h>
@@ -9,8 +9,8 @@
 #include <deque>
 #include <vector>
 
-/// What EndProcess throws in a test, in place of ending the process. The test driver alone catches it; it is
-/// no std::exception, so that nothing else catches it by chance.
+/// EndProcess throws this in a test. The test driver alone catches it; it is no std::exception, so that
+/// nothing else catches it by chance.
 struct ProgramEnded {
     int status;
 };
@@ -23,24 +23,19 @@ public:
         }
     }
 
-    /// The next thing to come is this message, compared whole. pAnswer is what the user presses.
+    /// Expects this message next, compared whole. The user answers it by pAnswer.
     void Expect(const Message &pMessage, MessageAnswer pAnswer = MessageAnswer::Ok) {
-        myScript.push_back({InWords(pMessage), pAnswer, {}});
+        myScript.push_back({InWords(pMessage), {}, pAnswer});
     }
-    /// The next thing to come is a file dialog for opening, or for saving. pPath is what the user chooses;
-    /// nothing: the user dismisses it.
-    void ExpectOpen(const std::optional<std::string> &pPath) {
-        myScript.push_back({toOpen, MessageAnswer::Ok, pPath});
-    }
-    void ExpectSave(const std::optional<std::string> &pPath) {
-        myScript.push_back({toSave, MessageAnswer::Ok, pPath});
-    }
+    /// Expects a file dialog next. The user chooses pPath, or dismisses the dialog without one.
+    void ExpectOpen(const std::optional<std::string> &pPath) { myScript.push_back({toOpen, pPath}); }
+    void ExpectSave(const std::optional<std::string> &pPath) { myScript.push_back({toSave, pPath}); }
 
-    /// What the file dialogs were asked to show, in order.
+    /// All requests for file dialogs so far.
     const std::vector<FileDialogRequest> &Dialogs() const { return myDialogs; }
     /// The forms on screen, the one shown last at the end.
     const std::vector<Form *> &Shown() const { return myShown; }
-    /// The documents and addresses handed over to be opened, in order.
+    /// All documents and addresses opened so far.
     const std::vector<std::string> &Targets() const { return myTargets; }
 
     MessageAnswer ShowMessage(const Message &pMessage) override { return Take(InWords(pMessage)).answer; }
@@ -63,23 +58,22 @@ private:
 
     struct Step {
         std::string what; ///< the message or dialog in words, by which it is compared
-        MessageAnswer answer;
         std::optional<std::string> path;
+        MessageAnswer answer = MessageAnswer::Ok;
     };
 
     static std::string InWords(const Message &pMessage) {
-        return "message " + testing::PrintToString(pMessage.prompt) + ", buttons " +
-               std::to_string(static_cast<int>(pMessage.buttons)) + ", title " +
-               testing::PrintToString(pMessage.title);
+        return "message \"" + pMessage.prompt + "\", title \"" + pMessage.title + "\", buttons " +
+               std::to_string(static_cast<int>(pMessage.buttons));
     }
 
     Step Take(const std::string &pWhat) {
-        Step step{"nothing", MessageAnswer::Cancel, {}}; // The program does least when it is told to cancel.
+        Step step{"nothing", {}, MessageAnswer::Cancel}; // The program does least after a Cancel.
         if (!myScript.empty()) {
             step = myScript.front();
             myScript.pop_front();
         }
-        EXPECT_EQ(pWhat, step.what) << "came, but was not what the script has next";
+        EXPECT_EQ(pWhat, step.what) << "came, but the script has something else next";
         return step;
     }
 

@@ -13,8 +13,7 @@ class TemporaryFolder {
 public:
     TemporaryFolder() {
         // Several test processes may run at once.
-        std::random_device random;
-        const std::string name = "norvo_test_" + std::to_string(random()) + "_" + std::to_string(random());
+        const std::string name = "norvo_test_" + std::to_string(std::random_device()());
         const auto path = (std::filesystem::temp_directory_path() / name).generic_u8string();
         myPath.assign(path.begin(), path.end());
         std::filesystem::create_directory(path);
