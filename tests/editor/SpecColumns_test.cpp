@@ -32,9 +32,10 @@ TEST(SpecColumns, AreTheRowsOfASpecificationOrItsFirstFault) {
     const std::string nines(61, '9');
     const std::pair<std::string, std::string> cases[] = {
         // Each number is read in its own way.
-        {"5,4\n,12.5,99999,-\nB,12.5,x,--\nC,1e1,-1,\"\"\nD,0,2.5,-\nE,1,2.5,list.txt\n",
+        {"7,4\n,12.5,99999,-\nB,12.5,x,--\nC,1e1,-1,\"\"\nD,0,2.5,-\nE,1,2.5,list.txt\nF,0.5,0,-\nG,1,0,-\n",
          "|12|X=0/100 W=13/100|text\nB|12|X=12/100 W=13/100|-- 0\nC|10|X=24/100 W=10/100| -1\n"
-         "D|0|X=34/100 W=0/100|text\nE|1|X=34/100 W=1/100|list.txt 2\n"},
+         "D|0|X=34/100 W=0/100|text\nE|1|X=34/100 W=1/100|list.txt 2\n"
+         "F|0|X=35/100 W=1/100|text\nG|1|X=36/100 W=1/100|text\n"},
         {"", "It should have 4 columns."},
         {"1,3\na,1,0\n", "It should have 4 columns."},
         {"0,4\n", "It has no rows."},

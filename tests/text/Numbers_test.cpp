@@ -4,26 +4,21 @@
 
 #include <cmath>
 
-TEST(Numbers, ValReadsTheLongestLeadingNumber) {
-    const std::pair<const char *, double> rows[] = {
-        {"", 0},         {"abc", 0},  {"+.e1", 0},   {"12ab", 12},    {"--7", 0},    {".5", 0.5},
-        {"1.2.3", 1.2},  {"1,5", 1},  {"1e3", 1000}, {"1E-2x", 0.01}, {"5e+", 5},    {" -3.5 x", -3.5},
-        {"1 2\t3", 123}, {"0x10", 0}, {"inf", 0},    {"nan", 0},      {"1e-999", 0}, {"1e999", HUGE_VAL}};
-    for (const auto &[text, value] : rows) {
+TEST(Numbers, AreReadFromTheStartOfATextOrFromAllOfIt) {
+    // Val reads the longest leading number. A text that is no number as a whole has no integer.
+    // clang-format off
+    const std::tuple<const char *, double, std::optional<int>> texts[] = {
+        {"1", 1, 1},         {" 20 ", 20, 20},       {"+5", 5, 5},            {"-5", -5, -5},           {"007", 7, 7},
+        {"2.5", 2.5, 2},     {"3.5", 3.5, 4},        {"-.5", -.5, 0},         {"1e2", 100, 100},        {"1e-999", 0, 0},
+        {"32767.4", 32767.4, 32767}, {"32767.5", 32767.5, {}}, {"-32768.5", -32768.5, -32768}, {"-32768.6", -32768.6, {}},
+        {"1e999", HUGE_VAL, {}}, {"", 0, {}},        {"   ", 0, {}},          {"abc", 0, {}},           {"12ab", 12, {}},
+        {"1 2\t3", 123, {}}, {"\t1", 1, {}},         {"1\n", 1, {}},          {"1,5", 1, {}},           {"1.2.3", 1.2, {}},
+        {"5e+", 5, {}},      {"1E-2x", .01, {}},     {" -3.5 x", -3.5, {}},   {"0x10", 0, {}},          {"inf", 0, {}},
+        {"nan", 0, {}},      {"- 1", -1, {}},        {"--7", 0, {}},          {"+.e1", 0, {}}};
+    // clang-format on
+    for (const auto &[text, value, integer] : texts) {
         EXPECT_EQ(Val(text), value) << '"' << text << '"';
-    }
-}
-
-TEST(Numbers, OnlyATextThatIsANumberAsAWholeIsAnInteger) {
-    const std::pair<const char *, int> rows[] = {
-        {"1", 1},   {" 20 ", 20}, {"+5", 5},  {"-5", -5},         {"2.5", 2},          {"3.5", 4},
-        {"-.5", 0}, {"1e2", 100}, {"007", 7}, {"32767.4", 32767}, {"-32768.5", -32768}};
-    for (const auto &[text, value] : rows) {
-        EXPECT_EQ(WholeTextInteger(text), value) << text;
-    }
-    for (const char *text : {"32767.5", "-32768.6", "1e999", "", "   ", "1x", "x1", "1 2", "\t1", "1\n",
-                             "1,5", "1e", "0x1", "inf", "nan", "-", "- 1"}) {
-        EXPECT_EQ(WholeTextInteger(text), std::nullopt) << '"' << text << '"';
+        EXPECT_EQ(WholeTextInteger(text), integer) << '"' << text << '"';
     }
 }
 
@@ -40,7 +35,6 @@ TEST(Numbers, IntegersRoundHalvesToEvenAndPatternsAwayFromZero) {
               "002012345 0 17-17");
     EXPECT_EQ(Integer32(2147483647.4), 2147483647);
     for (const double value : {2147483647.5, -2147483649.0, std::nan("")}) {
-        EXPECT_EQ(Integer16(value), std::nullopt) << value;
-        EXPECT_EQ(Integer32(value), std::nullopt) << value;
+        EXPECT_TRUE(!Integer16(value) && !Integer32(value)) << value;
     }
 }
