@@ -15,18 +15,23 @@ namespace {
 
 using Grid = std::vector<std::vector<std::string>>;
 
-/// One table for all files of a test, so that nothing of one file may stay for the next.
+constexpr std::int16_t dat = clsDatFile::fmtDat;
+constexpr std::int16_t csv = clsDatFile::fmtCsv;
+constexpr std::int16_t csvh = clsDatFile::fmtCsvWithHeaders;
+
+/// One table takes all files of a test, so a case sees what the one before it has left.
 class DatFile : public testing::Test {
 protected:
     void Fill(const Grid &pCells) {
         myTable.Rows(static_cast<std::int16_t>(pCells.size()));
-        myTable.Cols(static_cast<std::int16_t>(pCells.front().size()));
+        myTable.Cols(static_cast<std::int16_t>(pCells[0].size()));
         myTable.Clear();
         for (std::int16_t i = 0; i < myTable.Rows(); ++i) {
             myTable.Row(i, TextRow(pCells[static_cast<std::size_t>(i)]));
         }
     }
 
+    /// Saves the table and returns the file's bytes.
     std::string Save(std::int16_t pFmt) {
         myTable.Headers({"One", "Tw\"o", "Three"});
         myTable.Fmt(pFmt);
@@ -36,21 +41,13 @@ protected:
         return myFiles.Read("table");
     }
 
-    void Load(std::int16_t pFmt, const std::string &pName) {
+    /// Loads the file pName and returns the table: its size and cells, such as "2x2: a|b/c|d", then "!" after
+    /// a fault of the size and "?" if the file couldn't be read.
+    std::string Load(std::int16_t pFmt, const std::string &pName) {
         myTable.FileName(pName);
         myTable.Fmt(pFmt);
         myTable.Headers({"One", "Two"});
         myTable.Load();
-    }
-
-    /// Loads a file of these bytes and returns the table in words.
-    std::string Read(std::int16_t pFmt, std::string_view pBytes) {
-        Load(pFmt, myFiles.Write("table", pBytes));
-        return InWords();
-    }
-
-    /// Size and cells, such as "2x2: a|b/c|d". After them "!" means a fault of the size, "?" an unread file.
-    std::string InWords() const {
         std::string text = std::to_string(myTable.Rows()) + "x" + std::to_string(myTable.Cols()) + ":";
         for (std::int16_t i = 0; i < myTable.Rows(); ++i) {
             for (std::int16_t j = 0; j < myTable.Cols(); ++j) {
@@ -58,6 +55,10 @@ protected:
             }
         }
         return text + (!myTable.WasRead() ? "?" : myTable.Fault().empty() ? "" : "!");
+    }
+    /// The same for a file of these bytes.
+    std::string Read(std::int16_t pFmt, std::string_view pBytes) {
+        return Load(pFmt, myFiles.Write("table", pBytes));
     }
 
     TemporaryFolder myFiles;
@@ -71,36 +72,29 @@ protected:
 TEST_F(DatFile, WritesThreeFormsThatDifferOnlyBeforeTheFirstRow) {
     Fill({{"a\"b", " c,d "}, {"", "1"}});
     const std::string rows = "\"a\"\"b\",\" c,d \"\r\n\"\",\"1\"\r\n";
-    EXPECT_EQ(Save(clsDatFile::fmtDat), "2,2\r\n" + rows);
-    EXPECT_EQ(Save(clsDatFile::fmtCsv), rows);
-    EXPECT_EQ(Save(clsDatFile::fmtCsvWithHeaders), "\"One\",\"Tw\"\"o\"\r\n" + rows);
+    EXPECT_EQ(Save(dat), "2,2\r\n" + rows);
+    EXPECT_EQ(Save(csv), rows);
+    EXPECT_EQ(Save(csvh), "\"One\",\"Tw\"\"o\"\r\n" + rows);
     Fill({{"x", "", "", ""}});
-    EXPECT_EQ(Save(clsDatFile::fmtCsvWithHeaders),
-              "\"One\",\"Tw\"\"o\",\"Three\",\"\"\r\n\"x\",\"\",\"\",\"\"\r\n");
+    EXPECT_EQ(Save(csvh), "\"One\",\"Tw\"\"o\",\"Three\",\"\"\r\n\"x\",\"\",\"\",\"\"\r\n");
 }
 
 TEST_F(DatFile, ReadsWhatAFileHolds) {
-    constexpr auto dat = clsDatFile::fmtDat;
-    constexpr auto csv = clsDatFile::fmtCsv;
-    constexpr auto csvh = clsDatFile::fmtCsvWithHeaders;
     // After a ragged line the rows of a .dat file are there, but empty. A CSV file ends before that line.
     // clang-format off
     const std::tuple<std::int16_t, std::string_view, std::string_view> cases[] = {
-        {dat, "2,2\r\n\"a\",\"b\"\r\nc, d\r\n", "2x2: a|b/c|d"}, {dat, "2,2\r\n\"a\",\"b\"\r\nc,d", "2x2: a|b/c|d"},
-        {dat, "3,2\r\na,b\r\nc\r\ne,f\r\n", "3x2: a|b/|/|"},     {dat, "3,2\r\na,b\r\nc,\"d\r\ne,f", "3x2: a|b/|/|"},
-        {dat, "2,2\r\na,b\r\nc,d,e\r\n", "2x2: a|b/|"},          {dat, "1,2\ra,b\rc,d\r", "1x2: a|b"},
-        {dat, "  1 2,junk\r\na,b\r\n", "1x2: a|b"},              {dat, "1 , 2\r\na,b\r\n", "1x2: a|b"},
-        {dat, "2,2\r\na,b\r\n", "1x2: a|b!"},                    {dat, "32767,32767\r\n", "0x32767:!"},
+        {dat, "2,2\r\n\"a\",\"b\"\r\nc, d\r\n", "2x2: a|b/c|d"}, {dat, "3,2\r\na,b\r\nc,\"d\r\ne,f", "3x2: a|b/|/|"},
+        {dat, "2,2\r\na,b\r\nc\r\ne,f\r\n", "2x2: a|b/|"},       {dat, "2,2\r\na,b\r\nc,d,e\r\n", "2x2: a|b/|"},
+        {dat, "  1 2,junk\r\na,b\r\n", "1x2: a|b"},              {dat, "1 , 2\r\na,b", "1x2: a|b"},
+        {dat, "2,2\r\na,b\r\n", "1x2: a|b!"},                    {dat, "1,2\ra,b\rc,d\r", "1x2: a|b"},
         {dat, "32768,2\r\na,b\r\n", "0x2:!"},                    {dat, "1,32768\r\na\r\n", "0x0:"},
         {dat, "-1,2\r\n", "0x0:"},                               {dat, "1,-2\r\n", "0x0:"},
         {dat, "x,2\r\na,b\r\n", "0x2:!"},                        {dat, "2\r\na,b\r\n", "0x0:"},
         {dat, "1,2\na,b\n", "0x0:!"},                            {dat, "0,2\r\n", "0x2:"},
-        {dat, "", "0x0:"},                                       {csv, "a,b\rc,d\r", "2x2: a|b/c|d"},
+        {dat, "", "0x0:"},                                       {csv, "", "0x2:"},
         {csv, "a , \"b\"\r\nc,d", "2x2: a|b/c|d"},               {csv, "a,b\r\nc\r\nd,e\r\n", "1x2: a|b"},
-        {csv, "a,b\r\nc,d\r\n\r\ne,f\r\n", "2x2: a|b/c|d"},      {csv, "a,b\r\nc,\r\n", "1x2: a|b"},
-        {csv, "a,b\nc,d", "1x4: a|b|c|d"},                       {csv, "", "0x2:"},
+        {csv, "a,b\r\nc,d\r\n\r\ne,f\r\n", "2x2: a|b/c|d"},      {csv, "a,b\nc,d", "1x4: a|b|c|d"},
         {csvh, "x\r\na,b\r\nc,d\r\n", "2x2: a|b/c|d"},           {csvh, "One,Two\r\n", "0x2:"},
-        {csvh, "", "0x2:"},
         // NUL bytes, stray bytes and line ends of all kinds
         {csvh, "\xFF\0\r\n\"\0\",\xFF\0\x1A z\r"sv, "1x2: \0|\xFF\0\x1A z"sv},
         {dat, "4,1\ra\r\n\"b\n\"\r\r\nc\r\n", "4x1: a/b\n//"},   {csv, "a\r\n\"b\n\"\rc\r\nd\n", "3x1: a/b\n/c"}};
@@ -112,40 +106,37 @@ TEST_F(DatFile, ReadsWhatAFileHolds) {
 
 TEST_F(DatFile, GivesBackAllButBlanksAtTheEndsAndWhatFollowsALineBreak) {
     const std::vector<std::string> pieces{"\"", ",", " ", "\n", "\t", "a", "", "É", "𝄞", "\xFF", "\xC3"};
-    Grid cells(2);
-    std::string trimmed = "2x1331:";
-    for (std::vector<std::string> &row : cells) {
-        for (std::size_t i = 0; i < 11 * 11 * 11; ++i) {
-            row.push_back(pieces[i % 11] + pieces[i / 11 % 11] + pieces[i / 121]);
-            trimmed += (i > 0 ? "|" : &row == &cells[0] ? " " : "/") + std::string(Trim(row.back()));
-        }
+    std::vector<std::string> cells;
+    std::string trimmed = "1x1331:";
+    for (std::size_t i = 0; i < 11 * 11 * 11; ++i) {
+        cells.push_back(pieces[i % 11] + pieces[i / 11 % 11] + pieces[i / 121]);
+        trimmed += (i > 0 ? "|" : " ") + std::string(Trim(cells[i]));
     }
-    for (std::int16_t fmt = 0; fmt <= 2; ++fmt) {
-        Fill(cells);
+    for (const std::int16_t fmt : {dat, csv, csvh}) {
+        Fill({cells});
         EXPECT_EQ(Read(fmt, Save(fmt)), trimmed) << fmt;
         Fill({{"a"}, {"b\r\nc"}, {"d"}});
-        EXPECT_EQ(Read(fmt, Save(fmt)), fmt == clsDatFile::fmtDat ? "3x1: a//" : "1x1: a");
+        EXPECT_EQ(Read(fmt, Save(fmt)), fmt == dat ? "3x1: a//" : "1x1: a");
     }
 }
 
 // A reader that takes more than one pass over a huge file runs into the tests' time limit.
 TEST_F(DatFile, ReadsHugeFilesOrRefusesThem) {
-    Load(clsDatFile::fmtDat, myFiles.Write("table", "32767,32767\r\na,b\r\n"));
-    myTable.Data(32766, 32766, "there is room");
-    EXPECT_EQ(myTable.Data(32766, 32766), "there is room") << "the announced size costs nothing";
     constexpr std::size_t fiveMillion = 5'000'000;
-    EXPECT_EQ(Read(clsDatFile::fmtDat, std::string(fiveMillion, '9') + ",2\r\na,b\r\n"), "0x2:!");
+    EXPECT_EQ(Read(dat, std::string(fiveMillion, '9') + ",2\r\na,b\r\n"), "0x2:!");
     EXPECT_NE(myTable.Fault().find(" announces far too many records."), std::string::npos);
     const std::string tooWide = std::string(fiveMillion, ',') + 'x';
-    EXPECT_EQ(Read(clsDatFile::fmtCsv, tooWide), "0x0:?");
-    EXPECT_EQ(Read(clsDatFile::fmtDat, "1,2\r\n" + tooWide), "1x2: |");
-    std::string cell;
-    while (cell.size() < fiveMillion) {
-        cell += "\" , \"\" \n";
-    }
+    EXPECT_EQ(Read(csv, tooWide), "0x0:?");
+    EXPECT_EQ(Read(dat, "1,2\r\n" + tooWide), "1x2: |");
+    std::string cell(fiveMillion, '"');
     cell += std::string(fiveMillion, ' ') + '.';
     Fill({{"", cell}});
-    EXPECT_EQ(Read(clsDatFile::fmtCsv, Save(clsDatFile::fmtCsv) + "x\r\n"), "1x2: |" + cell);
+    EXPECT_EQ(Read(csv, Save(csv) + "x\r\n"), "1x2: |" + cell);
+    myTable.Rows(32767);
+    myTable.Cols(32767);
+    myTable.Clear();
+    myTable.Data(32766, 32766, "there is room");
+    EXPECT_EQ(myTable.Data(32766, 32766), "there is room") << "cells that are empty take no memory";
 }
 
 TEST_F(DatFile, ForgetsAFaultWithTheNextFile) {
@@ -156,15 +147,14 @@ TEST_F(DatFile, ForgetsAFaultWithTheNextFile) {
     unreadable.emplace_back("/dev/zero");
 #endif
     for (const std::string &name : unreadable) {
-        for (std::int16_t fmt = 0; fmt <= 2; ++fmt) {
-            Load(fmt, name);
-            EXPECT_EQ(InWords(), "0x0:?") << name;
+        for (const std::int16_t fmt : {dat, csv, csvh}) {
+            EXPECT_EQ(Load(fmt, name), "0x0:?") << name;
             EXPECT_NE(myTable.Fault(), "") << name;
         }
-        EXPECT_EQ(Read(clsDatFile::fmtDat, "1,2\r\na,b\r\n"), "1x2: a|b");
+        EXPECT_EQ(Read(dat, "1,2\r\na,b\r\n"), "1x2: a|b");
     }
     myTable.FileName(myFiles.Path());
     myTable.Save();
     EXPECT_NE(myTable.Fault(), "");
-    EXPECT_EQ(Save(clsDatFile::fmtDat), "1,2\r\n\"a\",\"b\"\r\n");
+    EXPECT_EQ(Save(dat), "1,2\r\n\"a\",\"b\"\r\n");
 }

@@ -13,10 +13,8 @@ const std::string caption = "Norvo Data File Editor";
 TEST(Opening, ShowsTheRecordsOrOneMessage) {
     Program program;
     const std::string spec = program.Start().Files().Path() + "\\NorvoEditDat.dat";
-    const auto wrongColumns = [&](const std::string &pCount) {
-        return " is not in the correct format. It has " + pCount + " columns.\n\nSpecification " + spec +
-               " is for 3 column data files.";
-    };
+    const std::string wrong = " is not in the correct format. It has ";
+    const std::string wanted = " columns.\n\nSpecification " + spec + " is for 3 column data files.";
     const std::tuple<const char *, std::string, std::string> cases[] = {
         {"2,3\na,b,c\nd,e,f\n", "  a|b|c\n  d|e|f\n", ""},
         {"3,3\na,b,c\nd,e\nf,g,h\n", "  a|b|c\n  ||\n  ||\n", ""},
@@ -24,8 +22,8 @@ TEST(Opening, ShowsTheRecordsOrOneMessage) {
          " is too short. Its first line announces 3 records, but it holds only 1."},
         {"32768,3\n", "", " announces 32768 records. A table holds at most 32767, so none were read."},
         {"x,3\na,b,c\n", "", " doesn't begin with the number of its records, so none were read."},
-        {"5,4\na,b,c,d\n", "", wrongColumns("4")},
-        {"", "", wrongColumns("0")}};
+        {"5,4\na,b,c,d\n", "", wrong + "4" + wanted},
+        {"", "", wrong + "0" + wanted}};
     for (const auto &[bytes, rows, message] : cases) {
         const std::string name = program.Files().Write("new.dat", CrLf(bytes));
         program.Press("Add"); // Each file replaces this row.

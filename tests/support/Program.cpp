@@ -4,14 +4,13 @@
 #include "platform/Controls.h"
 #include "platform/KeyCodes.h"
 
-#include <algorithm>
 #include <regex>
 #include <stdexcept>
 #include <vector>
 
 namespace {
 
-/// The controls of this kind, in tab order.
+/// The controls of this kind.
 template <typename Kind> std::vector<Kind *> AllOf(const Form &pForm) {
     std::vector<Kind *> all;
     for (const auto &control : pForm.Controls()) {
@@ -19,7 +18,6 @@ template <typename Kind> std::vector<Kind *> AllOf(const Form &pForm) {
             all.push_back(found);
         }
     }
-    std::ranges::stable_sort(all, {}, [](const Kind *pControl) { return pControl->TabIndex(); });
     return all;
 }
 
@@ -28,21 +26,6 @@ std::string NameOf(const CommandButton &pButton) {
     std::string name = pButton.Caption().empty() ? pButton.ToolTipText() : pButton.Caption();
     std::erase(name, '&');
     return name;
-}
-
-/// The heading, as assistive technology reads it out.
-std::string NameOf(const TextField &pField) {
-    return pField.AccessibleName();
-}
-
-/// The control of this kind and name on the form that was shown last.
-template <typename Kind> Kind &Named(const ScriptedDesktop &pDesktop, const std::string &pName) {
-    for (Kind *const control : AllOf<Kind>(*pDesktop.Shown().back())) {
-        if (NameOf(*control) == pName) {
-            return *control;
-        }
-    }
-    throw std::logic_error("The window on top has nothing named " + pName);
 }
 
 /// The user selects what the field holds and types pText. A combo box gets it by one key, whose release may
@@ -98,13 +81,21 @@ Program &Program::At(Control &pControl, const std::function<void()> &pAct) {
 }
 
 Program &Program::Type(const std::string &pHeading, const std::string &pText) {
-    auto &field = Named<TextField>(myScript, pHeading);
-    return At(field, [&] { TypeOver(field, pText); });
+    for (TextField *const field : AllOf<TextField>(Main())) {
+        if (field->AccessibleName() == pHeading) {
+            return At(*field, [&] { TypeOver(*field, pText); });
+        }
+    }
+    throw std::logic_error("No field has the heading " + pHeading);
 }
 
 Program &Program::Press(const std::string &pButton) {
-    auto &button = Named<CommandButton>(myScript, pButton);
-    return At(button, [&] { button.Press(); });
+    for (CommandButton *const button : AllOf<CommandButton>(*myScript.Shown().back())) {
+        if (NameOf(*button) == pButton) {
+            return At(*button, [&] { button->Press(); });
+        }
+    }
+    throw std::logic_error("The window on top has no button " + pButton);
 }
 
 Program &Program::Pick(int pRow) {
@@ -118,7 +109,7 @@ Program &Program::Choose(const std::string &pEntry) {
 std::string Program::Fields() const {
     std::string text;
     for (const TextField *const field : AllOf<TextField>(Main())) {
-        text += (text.empty() ? "" : " ") + NameOf(*field) + "[" + field->Text() + "]";
+        text += (text.empty() ? "" : " ") + field->AccessibleName() + "[" + field->Text() + "]";
     }
     return text;
 }

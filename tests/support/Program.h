@@ -37,7 +37,7 @@ public:
     // The verbs. One that needs the focus has no effect while a field refuses to lose it.
     /// Replaces the text of the field under pHeading by pText (ASCII).
     Program &Type(const std::string &pHeading, const std::string &pText);
-    /// Presses the button with that caption, or that tooltip if it shows a picture.
+    /// Presses the button with that caption, or that tooltip if it shows a picture, of the window on top.
     Program &Press(const std::string &pButton);
     /// Picks row pRow of the list, from 0.
     Program &Pick(int pRow);
