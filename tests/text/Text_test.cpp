@@ -24,7 +24,8 @@ TEST(Text, ComparisonsIgnoreCaseAndNothingElse) {
 TEST(Text, LengthsCountUtf16UnitsAndTrimTakesBlanksOnly) {
     EXPECT_EQ(Utf16Length("aé€e\u0301\U0001F600"), 7);
     EXPECT_EQ(Utf16Length("\xF0\x9F\x98"), 3) << "cut off: three stray bytes";
-    EXPECT_EQ(Trim(" \ta b\u00A0 "), "\ta b\u00A0");
+    EXPECT_EQ(Trim(" \ta b\t  "), "\ta b\t");
+    EXPECT_EQ(Trim(" \u00A0 "), "\u00A0");
     EXPECT_EQ(Trim("   "), "");
 }
 

@@ -101,12 +101,11 @@ TEST_F(Combo, SearchesALongListToItsEnd) {
     for (int i = 0; i < 200000; ++i) {
         lines += "Entry " + std::to_string(i) + "\r\n";
     }
-    const TemporaryFolder files;
-    myCombo.LoadFromTxtFile(files.Write("list.txt", lines));
-    EXPECT_EQ(Type('8', "entry 19999"), "Entry 19999/11+0");
+    const TemporaryFolder folder;
+    myCombo.LoadFromTxtFile(folder.Write("list.txt", lines));
     EXPECT_EQ(Type('8', "entry 199998"), "Entry 199998/12+0");
-    for (const auto &[text, isAccepted] : {std::pair("ENTRY 199999", true), {"entry 200000", false}}) {
-        myBox.Text(text);
-        EXPECT_EQ(myBox.MayLoseFocus(), isAccepted) << text;
-    }
+    myBox.Text("ENTRY 199999");
+    EXPECT_TRUE(myBox.MayLoseFocus());
+    myBox.Text("entry 200000");
+    EXPECT_FALSE(myBox.MayLoseFocus());
 }
