@@ -23,7 +23,11 @@ QPolygonF Triangle(CommandButton::Picture pPicture, const QRectF &pRect) {
 ButtonView::ButtonView(Acts &pActs, const CommandButton &pButton, QWidget &pParent)
     : QPushButton(&pParent), ControlView(pActs, pButton), myButton(pButton) {
     setAutoDefault(false);
-    connect(this, &QPushButton::clicked, this, [this] { myActs.Handle([this] { myButton.Press(); }); });
+    connect(this, &QPushButton::clicked, this, [this] {
+        if (MayTakeFocus()) {
+            myActs.Handle([this] { myButton.Press(); });
+        }
+    });
 }
 
 void ButtonView::Show() {
@@ -56,12 +60,10 @@ bool ButtonView::event(QEvent *pEvent) {
 }
 
 void ButtonView::PressByAccessKey() {
-    const auto *form = dynamic_cast<FormWindow *>(window());
-    if (form != nullptr && !form->MayFocusMoveTo(this)) {
-        return;
+    if (MayTakeFocus()) {
+        setFocus(Qt::ShortcutFocusReason);
+        click();
     }
-    setFocus(Qt::ShortcutFocusReason);
-    click();
 }
 
 void ButtonView::keyPressEvent(QKeyEvent *pEvent) {

@@ -2,6 +2,7 @@
 
 #include "desktop/ButtonView.h"
 #include "desktop/FieldViews.h"
+#include "desktop/FormWindow.h"
 #include "desktop/Look.h"
 #include "desktop/RecordList.h"
 #include "desktop/StillViews.h"
@@ -36,6 +37,11 @@ QRect ControlView::PlaceOf() const {
 
 void ControlView::ShowEnabled() {
     Widget().setEnabled(myControl.Enabled());
+}
+
+bool ControlView::MayTakeFocus() {
+    auto *form = dynamic_cast<FormWindow *>(Widget().window());
+    return form == nullptr || form->MayFocusMoveTo(&Widget());
 }
 
 void ControlView::ShowCommon() {

@@ -25,7 +25,7 @@ public:
     bool TakesFocus() const { return FocusPolicy() != Qt::NoFocus && !PlaceOf().isEmpty(); }
 
     /// Whether the control lets the user move the focus away.
-    virtual bool MayLoseFocus() const { return true; }
+    virtual bool MayLoseFocus() { return true; }
 
     /// Whether this control gets the focus when the button that has it is disabled.
     virtual bool TakesFocusOfDisabled() const { return false; }
@@ -38,6 +38,10 @@ protected:
     /// Updates what only this kind of control has, beyond place, state and names.
     virtual void Show() = 0;
     virtual void ShowEnabled();
+
+    /// Whether the control that has the focus would let it move to this one. Assistive technology presses
+    /// buttons and picks rows without moving the focus first.
+    bool MayTakeFocus();
 
     Acts &myActs;
 

@@ -13,51 +13,31 @@
 
 namespace {
 
-constexpr int mostCharacters = std::numeric_limits<int>::max();
-/// In bytes. A field shows only the start of a longer text, and does not let it be edited: Qt would measure
-/// all of it at each key and each blink of the caret. The record keeps the whole text.
-constexpr std::size_t mostEdited = 1'000'000;
-
 /// Whether the key is an access key. A line edit would type its letter.
 bool IsAccessKey(const QKeyEvent &pEvent) {
     const auto held = pEvent.modifiers() & (Qt::AltModifier | Qt::ControlModifier | Qt::GroupSwitchModifier);
     return held == Qt::AltModifier && !pEvent.text().isEmpty() && pEvent.text().at(0).isPrint();
 }
 
-/// The part of pText that a field shows. Makes pEdit read-only if that is not all of it.
-QString Shown(const std::string &pText, QLineEdit &pEdit) {
-    const bool isTooLong = pText.size() > mostEdited;
-    pEdit.setReadOnly(isTooLong);
-    return isTooLong ? ToQtLine(pText, mostShown) : ToQt(pText);
+/// Makes pBox editable, and returns the line edit in it.
+QLineEdit &EditOf(QComboBox &pBox) {
+    pBox.setEditable(true);
+    return *pBox.lineEdit();
 }
 
 } // namespace
 
 TextBoxView::TextBoxView(Acts &pActs, TextBox &pBox, QWidget &pParent)
-    : QLineEdit(&pParent), ControlView(pActs, pBox), myBox(pBox) {
-    setMaxLength(mostCharacters);
+    : QLineEdit(&pParent), ControlView(pActs, pBox),
+      myText(*this, pBox, [&](const std::string &pText) { pActs.Note([&] { pBox.UserEdits(pText); }); }) {
     // Not textEdited: an edit by assistive technology doesn't emit it.
-    connect(this, &QLineEdit::textChanged, this, [this](const QString &pText) { Edited(pText); });
-}
-
-void TextBoxView::Edited(const QString &pText) {
-    if (myIsShowing) {
-        return;
-    }
-    const QScopedValueRollback editing(myIsEditing, true);
-    myCaretFromEnd = pText.size() - cursorPosition();
-    myActs.Note([&] { myBox.UserEdits(FromQt(pText)); });
+    connect(this, &QLineEdit::textChanged, this, [this] { myText.Edited(); });
 }
 
 void TextBoxView::Show() {
-    const QScopedValueRollback showing(myIsShowing, true);
-    const QString shown = Shown(myBox.Text(), *this);
-    if (text() == shown) {
-        return;
+    if (myText.Show()) {
+        home(false);
     }
-    setText(shown);
-    // While the user edits, the caret keeps its place. Any other text shows from its start.
-    setCursorPosition(myIsEditing ? static_cast<int>(shown.size() - myCaretFromEnd) : 0);
 }
 
 void TextBoxView::keyPressEvent(QKeyEvent *pEvent) {
@@ -92,9 +72,13 @@ QVariant ComboEntries::data(const QModelIndex &pIndex, int pRole) const {
 }
 
 ComboBoxView::ComboBoxView(Acts &pActs, ComboBox &pBox, QWidget &pParent)
-    : QComboBox(&pParent), ControlView(pActs, pBox), myBox(pBox), myEntries(pBox) {
+    : QComboBox(&pParent), ControlView(pActs, pBox), myBox(pBox), myEntries(pBox),
+      myText(EditOf(*this), pBox,
+             [this](const std::string &pText) {
+                 myActs.Note([&] { myBox.UserEdits(pText, lineEdit()->cursorPosition()); });
+             }),
+      myFrame(*this) {
     const QScopedValueRollback showing(myIsShowing, true);
-    setEditable(true);
     setCompleter(nullptr);
     setInsertPolicy(NoInsert);
     // The form sets the size. To measure 200,000 entries for it would take a noticeable time.
@@ -105,6 +89,7 @@ ComboBoxView::ComboBoxView(Acts &pActs, ComboBox &pBox, QWidget &pParent)
     list->setUniformItemSizes(true);
     list->setLayoutMode(QListView::SinglePass);
     list->setFont(font());
+    list->installEventFilter(this);
     PrepareEdit();
     connect(this, &QComboBox::activated, this,
             [this](int pIndex) { myActs.Handle([&] { myBox.UserPicks(pIndex); }); });
@@ -118,25 +103,21 @@ ComboBoxView::~ComboBoxView() {
 
 void ComboBoxView::PrepareEdit() {
     QLineEdit &edit = *lineEdit();
-    edit.setMaxLength(mostCharacters);
     // At these signals Qt would search the list for the text and pick an entry. Only the user picks.
     disconnect(&edit, &QLineEdit::editingFinished, this, nullptr);
     disconnect(&edit, &QLineEdit::returnPressed, this, nullptr);
-    connect(&edit, &QLineEdit::textChanged, this, [this](const QString &pText) { Edited(pText); });
+    connect(&edit, &QLineEdit::textChanged, this, [this] {
+        if (!myIsShowing) {
+            myText.Edited();
+        }
+    });
     connect(&edit, &QLineEdit::cursorPositionChanged, this, [this] { CaretMoved(); });
     connect(&edit, &QLineEdit::selectionChanged, this, [this] { CaretMoved(); });
 }
 
-void ComboBoxView::Edited(const QString &pText) {
-    if (myIsShowing) {
-        return;
-    }
-    myActs.Note([&] { myBox.UserEdits(FromQt(pText), lineEdit()->cursorPosition()); });
-}
-
 void ComboBoxView::CaretMoved() {
     const QLineEdit &edit = *lineEdit();
-    if (!myIsShowing) {
+    if (!myIsShowing && !myText.IsShowing()) {
         const bool selects = edit.hasSelectedText();
         myBox.UserSelects(selects ? edit.selectionStart() : edit.cursorPosition(),
                           selects ? edit.selectionLength() : 0);
@@ -146,17 +127,22 @@ void ComboBoxView::CaretMoved() {
 void ComboBoxView::Show() {
     const QScopedValueRollback showing(myIsShowing, true);
     lineEdit()->setAccessibleName(accessibleName());
+    ShowRefusal();
     lineEdit()->setAccessibleDescription(accessibleDescription());
     myEntries.Sync();
     ShowText();
 }
 
+void ComboBoxView::ShowRefusal() {
+    if (myBox.IsRefusing()) {
+        setAccessibleDescription(QStringLiteral("not one of the listed values"));
+    }
+    myFrame.setWidget(myBox.IsRefusing() ? this : nullptr);
+}
+
 void ComboBoxView::ShowText() {
     QLineEdit &edit = *lineEdit();
-    const QString shown = Shown(myBox.Text(), edit);
-    if (edit.text() != shown) {
-        edit.setText(shown);
-    }
+    myText.Show();
     const int start = myBox.SelStart();
     const int length = myBox.SelLength();
     if (length > 0 && (edit.selectionStart() != start || edit.selectionLength() != length)) {
@@ -167,7 +153,7 @@ void ComboBoxView::ShowText() {
     }
 }
 
-int ComboBoxView::NearestIndex() const {
+int ComboBoxView::CurrentEntry() const {
     if (myBox.ListIndex() >= 0) {
         return myBox.ListIndex();
     }
@@ -179,16 +165,27 @@ int ComboBoxView::NearestIndex() const {
     return -1;
 }
 
+int ComboBoxView::EntryLikeText() const {
+    return myBox.Text().empty() ? -1 : myBox.FindString(myBox.Text());
+}
+
 void ComboBoxView::Step(int pStep) {
-    const int index = std::clamp(NearestIndex() + pStep, 0, myBox.ListCount() - 1);
+    const int current = CurrentEntry();
+    const int next = std::max(EntryLikeText(), 0);
+    const int start = current >= 0 ? current : pStep > 0 ? next - 1 : next;
+    const int index = std::clamp(start + pStep, 0, myBox.ListCount() - 1);
     myActs.Handle([&] { myBox.UserPicks(index); });
 }
 
 void ComboBoxView::showPopup() {
+    if (!MayTakeFocus()) {
+        return;
+    }
     {
         // Only the popup needs Qt's own current entry. To set it overwrites the text.
         const QScopedValueRollback showing(myIsShowing, true);
-        setCurrentIndex(NearestIndex());
+        const int current = CurrentEntry();
+        setCurrentIndex(current >= 0 ? current : EntryLikeText());
         ShowText();
     }
     WidenPopup();
@@ -208,24 +205,43 @@ void ComboBoxView::WidenPopup() {
     view()->setMinimumWidth(std::min(textWidth, mostWidth) + room);
 }
 
+bool ComboBoxView::ActOnEntries(const QKeyEvent &pEvent) {
+    const bool isUp = pEvent.key() == Qt::Key_Up || pEvent.key() == Qt::Key_PageUp;
+    const bool isArrow = pEvent.key() == Qt::Key_Up || pEvent.key() == Qt::Key_Down;
+    const bool isPage = pEvent.key() == Qt::Key_PageUp || pEvent.key() == Qt::Key_PageDown;
+    const bool isWithAlt = pEvent.modifiers().testFlag(Qt::AltModifier);
+    const bool isWithControl = pEvent.modifiers().testFlag(Qt::ControlModifier);
+    if (isArrow && isWithAlt) {
+        showPopup();
+        return true;
+    }
+    const bool isStep = (isArrow && !isWithControl) || (isPage && !isWithAlt);
+    if (isStep && myBox.ListCount() > 0) {
+        const int places = isPage ? maxVisibleItems() : 1;
+        Step(isUp ? -places : places);
+    }
+    return isStep;
+}
+
 void ComboBoxView::keyPressEvent(QKeyEvent *pEvent) {
     myBox.UserPressesKey(VirtualKey(*pEvent));
-    const bool isPlain = !(pEvent->modifiers() & (Qt::AltModifier | Qt::ControlModifier));
-    const int page = maxVisibleItems();
-    const bool hasEntries = myBox.ListCount() > 0;
     if (pEvent->key() == Qt::Key_Return || pEvent->key() == Qt::Key_Enter || IsAccessKey(*pEvent)) {
         pEvent->ignore(); // The form may have a default button or an access key for it.
-    } else if (isPlain && (pEvent->key() == Qt::Key_Up || pEvent->key() == Qt::Key_Down)) {
-        if (hasEntries) {
-            Step(pEvent->key() == Qt::Key_Up ? -1 : 1);
-        }
-    } else if (isPlain && (pEvent->key() == Qt::Key_PageUp || pEvent->key() == Qt::Key_PageDown)) {
-        if (hasEntries) {
-            Step(pEvent->key() == Qt::Key_PageUp ? -page : page);
-        }
-    } else {
+    } else if (!ActOnEntries(*pEvent)) {
         QComboBox::keyPressEvent(pEvent);
     }
+}
+
+bool ComboBoxView::eventFilter(QObject *pWatched, QEvent *pEvent) {
+    if (pEvent->type() == QEvent::KeyPress) {
+        const auto &key = static_cast<const QKeyEvent &>(*pEvent);
+        const bool isArrow = key.key() == Qt::Key_Up || key.key() == Qt::Key_Down;
+        if (isArrow && key.modifiers().testFlag(Qt::AltModifier)) {
+            hidePopup();
+            return true;
+        }
+    }
+    return QComboBox::eventFilter(pWatched, pEvent);
 }
 
 void ComboBoxView::keyReleaseEvent(QKeyEvent *pEvent) {

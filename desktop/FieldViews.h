@@ -2,6 +2,8 @@
 /// The views of the fields: text box and combo box. They report every change of their text, from whatever
 /// source.
 #include "desktop/ControlView.h"
+#include "desktop/FieldText.h"
+#include "desktop/RefusalFrame.h"
 #include "platform/ComboBox.h"
 #include "platform/Controls.h"
 
@@ -20,12 +22,7 @@ protected:
     void keyPressEvent(QKeyEvent *pEvent) override;
 
 private:
-    void Edited(const QString &pText);
-
-    TextBox &myBox;
-    bool myIsShowing = false;
-    qsizetype myCaretFromEnd = 0;
-    bool myIsEditing = false;
+    FieldText myText;
 };
 
 /// The entries of a combo box as a Qt model. It reads them in the box and keeps no copy.
@@ -49,7 +46,7 @@ public:
     ComboBoxView(Acts &pActs, ComboBox &pBox, QWidget &pParent);
     ~ComboBoxView() override;
     QWidget &Widget() override { return *this; }
-    bool MayLoseFocus() const override { return myBox.MayLoseFocus(); }
+    bool MayLoseFocus() override { return myBox.MayLoseFocus(); }
 
     void showPopup() override;
 
@@ -59,20 +56,28 @@ protected:
     void keyPressEvent(QKeyEvent *pEvent) override;
     void keyReleaseEvent(QKeyEvent *pEvent) override;
     void wheelEvent(QWheelEvent *pEvent) override;
+    bool eventFilter(QObject *pWatched, QEvent *pEvent) override;
 
 private:
     void PrepareEdit();
-    void Edited(const QString &pText);
     void CaretMoved();
     void ShowText();
+    void ShowRefusal();
     /// Makes the popup wide enough for its entries.
     void WidenPopup();
-    /// Picks the entry pStep places after the nearest one, or the first or last entry if that is too far.
+    /// Does what the key does in the list of entries. Returns whether it is such a key.
+    bool ActOnEntries(const QKeyEvent &pEvent);
+    /// Picks the entry pStep places after the current one, or the first or last entry if that is too far. If
+    /// none is current, counts from just before the first entry that begins like the text.
     void Step(int pStep);
     /// The current entry, else the one that equals the text, case ignored; -1 if there is none.
-    int NearestIndex() const;
+    int CurrentEntry() const;
+    /// The first entry that begins like the text, case ignored; -1 if there is none, or no text.
+    int EntryLikeText() const;
 
     ComboBox &myBox;
     ComboEntries myEntries;
+    FieldText myText;
+    RefusalFrame myFrame;
     bool myIsShowing = false;
 };

@@ -8,13 +8,13 @@ class QMouseEvent;
 
 class FocusGuard : public QObject {
 public:
-    explicit FocusGuard(const FormWindow &pWindow) : myWindow(pWindow) {}
+    explicit FocusGuard(FormWindow &pWindow) : myWindow(pWindow) {}
 
     bool eventFilter(QObject *pWatched, QEvent *pEvent) override;
 
 private:
     bool Refuses(const QMouseEvent &pPress) const;
 
-    const FormWindow &myWindow;
+    FormWindow &myWindow;
     Qt::MouseButtons mySwallowed; ///< buttons whose press was dropped and whose release is still to come
 };

@@ -1,8 +1,8 @@
 #include "desktop/FormWindow.h"
 
 #include "desktop/Look.h"
-#include "desktop/TaskBar.h"
 #include "desktop/TextCodec.h"
+#include "desktop/WindowSystem.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -39,10 +39,12 @@ FormWindow::FormWindow(Acts &pActs, Form &pForm)
     SetFrame();
     AddViews();
     SetTabOrder();
+    connect(qApp, &QApplication::focusChanged, this,
+            [this](const QWidget * /*pBefore*/, const QWidget *pNow) { FocusMoved(pNow); });
     winId();
     windowHandle()->installEventFilter(&myGuard);
     if (myForm.Border() == Form::BorderStyle::FixedDialog) {
-        KeepOffTaskBar(*this);
+        StandAlone(*this);
     }
     Sync();
     Arrange();
@@ -56,7 +58,9 @@ FormWindow::~FormWindow() {
 
 void FormWindow::SetFrame() {
     if (myForm.Border() == Form::BorderStyle::FixedDialog) {
-        setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+        // Not Qt::Dialog: without a parent it would belong to all windows of the program, stay above them and
+        // be minimised with them.
+        setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                        Qt::WindowCloseButtonHint);
         setPalette(LightPalette());
     }
@@ -108,6 +112,7 @@ void FormWindow::Sync() {
     if (myShownRevision != myForm.Revision()) {
         myShownRevision = myForm.Revision();
         ShowCaptionAndState();
+        ShowLeastSize();
         FollowForm();
     }
 }
@@ -138,6 +143,15 @@ int FormWindow::State() const {
     return isMaximized() || isFullScreen() ? Form::stateMaximized : Form::stateNormal;
 }
 
+void FormWindow::ShowLeastSize() {
+    const int width = Pixels(myForm.LeastClientWidth());
+    const int height = Pixels(myForm.LeastClientHeight());
+    if (width > 0 && height > 0) {
+        // A window manager that heeds it stops the drag of the frame there.
+        setMinimumSize(width, height + MenuHeight(width));
+    }
+}
+
 QSize FormWindow::WantedClient() const {
     return {std::max(Pixels(myForm.ClientWidth()), 1), std::max(Pixels(myForm.ClientHeight()), 1)};
 }
@@ -154,9 +168,13 @@ void FormWindow::Arrange() {
     myClient->setGeometry(0, menuHeight, width(), std::max(height() - menuHeight, 0));
 }
 
-void FormWindow::ResizeToForm() {
+QSize FormWindow::WantedSize() const {
     const QSize client = WantedClient();
-    const QSize size(client.width(), client.height() + MenuHeight(client.width()));
+    return {client.width(), client.height() + MenuHeight(client.width())};
+}
+
+void FormWindow::ResizeToForm() {
+    const QSize size = WantedSize();
     if (myForm.Border() == Form::BorderStyle::FixedDialog) {
         setFixedSize(size);
     } else {
@@ -177,12 +195,18 @@ void FormWindow::FollowForm() {
 }
 
 void FormWindow::Settled() {
+    if (IsMouseHeld()) {
+        mySettling.start(); // A window manager may drop what it is asked during a drag.
+        return;
+    }
     // At the end of a drag the window system may give the last size once more, after it was corrected.
-    const bool isOff = State() == Form::stateNormal && myClient->size() != WantedClient();
+    const QSize given = SizeOnScreen(*this).value_or(size());
+    const bool isOff = State() == Form::stateNormal && given != WantedSize();
     if (isOff && !myHasAskedAgain) {
         myHasAskedAgain = true;
         mySettling.start();
         ResizeToForm();
+        AskForSize(*this, WantedSize());
         return;
     }
     myHasAskedAgain = false;
@@ -221,6 +245,7 @@ bool FormWindow::event(QEvent *pEvent) {
     // The menu bar wants another height, for example because the system has another font now.
     if (pEvent->type() == QEvent::LayoutRequest && myIsReady && myBar != nullptr &&
         myBar->height() != MenuHeight(width())) {
+        ShowLeastSize();
         if (State() == Form::stateNormal) {
             ResizeToForm();
         }
@@ -250,11 +275,32 @@ void FormWindow::keyPressEvent(QKeyEvent *pEvent) {
     }
 }
 
-bool FormWindow::MayFocusMoveTo(const QWidget *pTarget) const {
-    const QWidget *focused = focusWidget();
-    const auto hasFocus = [&](const auto &pView) { return &pView->Widget() == focused; };
+bool FormWindow::MayFocusMoveTo(const QWidget *pTarget) {
+    if (myFocused == nullptr || pTarget == &myFocused->Widget() || myFocused->MayLoseFocus()) {
+        return true;
+    }
+    myFocused->Sync();
+    if (focusWidget() == myBar) {
+        myFocused->Widget().setFocus(Qt::OtherFocusReason);
+    }
+    return false;
+}
+
+void FormWindow::FocusMoved(const QWidget *pNow) {
+    if (!myIsReady) {
+        return;
+    }
+    const auto hasFocus = [&](const auto &pView) { return &pView->Widget() == pNow; };
     const auto view = std::find_if(myViews.begin(), myViews.end(), hasFocus);
-    return view == myViews.end() || pTarget == focused || (*view)->MayLoseFocus();
+    if (view == myViews.end()) {
+        return;
+    }
+    if (MayFocusMoveTo(pNow)) {
+        myFocused = view->get();
+    } else {
+        // Assistive technology moves the focus without asking. Put it back later: Qt is still moving it.
+        QTimer::singleShot(0, this, [this] { myFocused->Widget().setFocus(Qt::OtherFocusReason); });
+    }
 }
 
 bool FormWindow::focusNextPrevChild(bool pNext) {

@@ -23,9 +23,10 @@ public:
     /// Takes the window off the screen and stops it from passing anything on. The form is gone.
     void Retire();
 
-    /// Whether the focused control lets the user move the focus to pTarget. Null stands for the target of
-    /// Tab.
-    bool MayFocusMoveTo(const QWidget *pTarget) const;
+    /// Whether the control that has the focus lets the user move it to pTarget; null stands for the target
+    /// of Tab. While the menu bar has the focus, the control that had it before is asked, and gets it back
+    /// if it refuses.
+    bool MayFocusMoveTo(const QWidget *pTarget);
 
     /// Moves the focus away from a button that is about to be disabled.
     void FocusFallback() const;
@@ -43,13 +44,16 @@ private:
     void AddViews();
     void SetTabOrder() const;
     void ShowFocus();
+    void FocusMoved(const QWidget *pNow);
     int MenuHeight(int pWidth) const;
     void Arrange();
     void ReportSize();
     int State() const;
     void ShowCaptionAndState();
-    /// The client area that the form wants, in pixels.
+    void ShowLeastSize();
+    /// The client area that the form wants, and the window around it, in pixels.
     QSize WantedClient() const;
+    QSize WantedSize() const;
     void ResizeToForm();
     void FollowForm();
     void Settled();
@@ -60,6 +64,7 @@ private:
     QWidget *myClient = nullptr;
     std::unique_ptr<FormMenu> myMenu;
     std::vector<std::unique_ptr<ControlView>> myViews;
+    ControlView *myFocused = nullptr; ///< the view that has the focus, or had it last
     FocusGuard myGuard;
     bool myIsReady = false;
     int myShownRevision = 0;

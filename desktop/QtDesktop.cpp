@@ -1,5 +1,6 @@
 #include "desktop/QtDesktop.h"
 
+#include "desktop/ComboAccess.h"
 #include "desktop/FileDialog.h"
 #include "desktop/TextCodec.h"
 #include "platform/Runtime.h"
@@ -35,6 +36,7 @@ QtDesktop::QtDesktop() {
     // to a place where Qt can't write.
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("/dev/null"));
     QCoreApplication::instance()->installEventFilter(&myHeldKeys);
+    UseOwnAccessForComboBoxes();
 }
 
 QtDesktop::~QtDesktop() {
@@ -116,9 +118,7 @@ void QtDesktop::ShowForm(Form &pForm) {
         window = new FormWindow(*this, pForm);
         myWindows[&pForm] = window;
         window->show();
-        return;
-    }
-    if (window->isMinimized()) {
+    } else if (window->isMinimized()) {
         window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
     }
     window->raise();

@@ -14,6 +14,7 @@ void ComboBox::Text(const std::string &pText) {
     TextField::Text(pText);
     myListIndex = -1;
     myWasTypedIn = false;
+    myIsRefusing = false;
     SelStart(0);
 }
 
@@ -33,6 +34,7 @@ void ComboBox::ListIndex(int pIndex) {
     if (pIndex >= 0) {
         TextField::Text(List(pIndex));
         myWasTypedIn = false; // A picked entry is not typed text.
+        myIsRefusing = false;
         SelStart(0);
     }
     Touch();
@@ -59,7 +61,9 @@ void ComboBox::UserEdits(const std::string &pText, int pSelStart) {
     if (pText == Text()) {
         return;
     }
+    const bool wasRefusing = myIsRefusing;
     Text(WithoutNewLineBreaks(Text(), pText));
+    myIsRefusing = wasRefusing && !MayLoseFocus();
     // A CR LF before the caret has become one character, so the caret counts from the end.
     SelStart(pSelStart + Utf16Length(Text()) - Utf16Length(pText));
     myWasTypedIn = myLastKeyDown != keyCode::back && myLastKeyDown != keyCode::del;
@@ -80,8 +84,12 @@ bool ComboBox::TakeTyped() {
     return std::exchange(myWasTypedIn, false);
 }
 
-bool ComboBox::MayLoseFocus() const {
+bool ComboBox::MayLoseFocus() {
     bool cancel = false;
     Validate.Raise(cancel);
+    if (cancel != myIsRefusing) {
+        myIsRefusing = cancel;
+        Touch();
+    }
     return !cancel;
 }

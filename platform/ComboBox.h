@@ -56,7 +56,10 @@ public:
     void UserPicks(int pIndex);
 
     /// Asks the client whether the focus may leave the box.
-    bool MayLoseFocus() const;
+    bool MayLoseFocus();
+    /// Whether the client has refused that. A box that does so shows it until its text is acceptable or set
+    /// anew.
+    bool IsRefusing() const { return myIsRefusing; }
 
     Event<int, int> KeyUp;  ///< key code, shift
     Event<bool &> Validate; ///< Cancel: true keeps the focus in the box
@@ -68,4 +71,5 @@ private:
     int mySelLength = 0;
     int myLastKeyDown = 0;
     bool myWasTypedIn = false;
+    bool myIsRefusing = false;
 };

@@ -5,6 +5,7 @@ and 2, with a system font of one and a half times the size, small and large, and
 
 import os
 import sys
+import time
 
 sys.path.insert(0, os.path.join(os.path.dirname(__file__), "..", "tests", "x11"))
 
@@ -33,7 +34,7 @@ def settings(d, theme, points):
 
 
 def take(d, name):
-    desk.time.sleep(0.5)  # Nothing tells when painting is done, and no test depends on this.
+    time.sleep(0.5)  # Nothing tells when painting is done, and no test depends on this.
     desk.run("xsetroot", "-solid", "#5b6e7d")
     desk.run("import", "-window", "root", "-trim", "+repage", os.path.join(sys.argv[3], name + ".png"))
 
@@ -71,6 +72,8 @@ def session(d, share):
         d.focus(TITLE)
         desk.run("xdotool", "getactivewindow", "windowsize", "--sync", "1100", "600")
         take(d, name + "-large")
+        d.key("Tab", "Tab", "Tab", "Tab", "z", "Tab")
+        take(d, name + "-refused")
         d.key("alt+F4")
         d.ends()
 

@@ -39,6 +39,7 @@ public:
 private:
     static std::optional<double> GetOpt(std::string_view pKey, std::string_view pOpts);
     void EnforceMinimum();
+    void TellForm() const;
 
     Form *myFrm = nullptr;
     std::vector<clsControl> myCtrls;

@@ -67,19 +67,26 @@ TEST_F(Fields, keepWhatIsNotUtf8AndWhatIsLong) {
     EXPECT_EQ(ToQt(face + face, 3), ToQt(face)) << "never half a character";
 }
 
-TEST_F(Fields, takeNoAccessKeyAndNoEditOfATextThatTheyDontShowWhole) {
-    using Case = std::tuple<std::string, Qt::KeyboardModifiers, std::string>;
-    const std::string huge(1'000'001, 'x');
-    for (const auto &[before, held, after] :
-         {Case{"", {}, "z"}, Case{"", Qt::AltModifier, ""}, Case{huge, {}, huge}}) {
+TEST_F(Fields, takeNoAccessKeyAndReplaceATextThatTheyDontShowWhole) {
+    using Case = std::tuple<std::string, int, Qt::KeyboardModifiers, std::string>;
+    const std::string most(1'000'000, 'x');
+    const std::string huge = most + 'x';
+    for (const auto &[before, key, held, after] :
+         {Case{"", Qt::Key_Z, {}, "z"}, Case{"", Qt::Key_Z, Qt::AltModifier, ""},
+          Case{most, Qt::Key_Z, {}, most}, Case{huge, Qt::Key_X, {}, "x"}, Case{huge, Qt::Key_Delete, {}, ""},
+          Case{huge, Qt::Key_Z, Qt::ControlModifier, huge}}) {
         name.Text(before);
         fruit.Text(before);
         Sync();
         for (QWidget *field : std::initializer_list<QWidget *>{nameEdit, box}) {
             field->setFocus();
-            Key(Qt::Key_Z, held);
+            Key(key, held);
+            if (before == huge) {
+                Key(Qt::Key_Z, Qt::ControlModifier); // must not bring the shown start back as the whole
+            }
         }
-        EXPECT_TRUE(name.Text() == after && fruit.Text() == after) << before.size() << " " << held;
+        EXPECT_TRUE(name.Text() == after && fruit.Text() == after)
+            << before.size() << " " << key << " " << name.Text().size() << " " << fruit.Text().size();
     }
 }
 

@@ -129,9 +129,9 @@ TEST_F(Window, snapsBackToItsMinimumEachTime) {
     window->resize(atStart + QSize(90, 60));
     EXPECT_EQ(form.ClientWidth(), 6000 + 90 * 15);
     EXPECT_EQ(form.ClientHeight(), 3000 + 60 * 15);
-    EXPECT_EQ(window->minimumSize(), QSize(0, 0)) << "nothing limits the drag beforehand";
+    EXPECT_EQ(window->minimumSize(), atStart) << "what the window system is told";
     for (int drag = 0; drag < 2; ++drag) {
-        window->resize(300, 120);
+        window->windowHandle()->resize(300, 120); // Not all window systems heed it.
         EXPECT_TRUE(QTest::qWaitFor([&] { return window->size() == atStart; })) << drag;
         EXPECT_EQ(form.ClientWidth(), 6000);
     }
@@ -144,10 +144,10 @@ TEST_F(Window, doesNotFightAWindowSystemThatInsists) {
     QObject::connect(window->windowHandle(), &QWindow::widthChanged, window, [&](int pWidth) {
         if (pWidth != own.width()) {
             ++asked;
-            QTimer::singleShot(0, window, [&] { window->resize(own); });
+            QTimer::singleShot(0, window, [&] { window->windowHandle()->resize(own); });
         }
     });
-    window->resize(own);
+    window->windowHandle()->resize(own);
     EXPECT_FALSE(QTest::qWaitFor([&] { return asked > 2; }, 1000)) << "asked again and again";
     EXPECT_GE(asked, 1);
     EXPECT_EQ(window->size(), own);

@@ -72,7 +72,7 @@ Program &Program::Start(const std::string &pCommand) {
 }
 
 Program &Program::At(Control &pControl, const std::function<void()> &pAct) {
-    const auto *box = dynamic_cast<const ComboBox *>(myFocus);
+    auto *box = dynamic_cast<ComboBox *>(myFocus);
     if (box != nullptr && box != &pControl && !box->MayLoseFocus()) {
         return *this;
     }

@@ -1,0 +1,12 @@
+#pragma once
+/// The sign of a field that keeps the focus because of its text: a thick frame in a colour of warning.
+/// Assistive technology doesn't see it.
+#include <QFocusFrame>
+
+class RefusalFrame : public QFocusFrame {
+public:
+    explicit RefusalFrame(QWidget &pField) : QFocusFrame(&pField) { hide(); }
+
+protected:
+    void paintEvent(QPaintEvent *pEvent) override;
+};

@@ -1,0 +1,23 @@
+#pragma once
+/// What the window system has to be told, or asked, past Qt. Only X11 needs that. Elsewhere, and in a build
+/// without its library, these functions do nothing and know nothing.
+#include <QSize>
+
+#include <optional>
+
+class QWidget;
+
+/// Keeps a window off the task bar, and out of the group of the program's windows: a window manager may take
+/// a dialog for one of all the windows in its group, keep it above them and minimise it with them. Call it
+/// when pWindow has been created and before it is shown.
+void StandAlone(const QWidget &pWindow);
+
+/// The size that pWindow has on the screen, in logical pixels; nothing if that isn't known. Qt takes the size
+/// that it has asked for as given, while a window manager may drop what is asked during a drag of the frame.
+std::optional<QSize> SizeOnScreen(const QWidget &pWindow);
+
+/// Asks for pSize, in logical pixels, even if Qt believes that pWindow has it.
+void AskForSize(const QWidget &pWindow, QSize pSize);
+
+/// Whether the user holds the left mouse button down, over the frame of a window too.
+bool IsMouseHeld();
