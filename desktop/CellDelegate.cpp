@@ -2,7 +2,10 @@
 
 #include "desktop/RecordModel.h"
 #include "desktop/TextCodec.h"
+#include "desktop/WholeText.h"
 
+#include <QAbstractItemView>
+#include <QHelpEvent>
 #include <QPainter>
 #include <QStyleOptionViewItem>
 #include <QTextLayout>
@@ -55,21 +58,22 @@ QPalette::ColorGroup GroupOf(QStyle::State pState) {
     return pState.testFlag(QStyle::State_Active) ? QPalette::Active : QPalette::Inactive;
 }
 
-/// Draws the mark of the focused cell.
-void DrawFocus(QPainter &pPainter, const QStyleOptionViewItem &pOption, QPalette::ColorGroup pGroup) {
-    QStyleOptionFocusRect mark;
-    mark.QStyleOption::operator=(pOption);
-    mark.state |= QStyle::State_KeyboardFocusChange | QStyle::State_Item;
-    mark.backgroundColor = pOption.palette.color(pGroup, QPalette::Base);
-    pOption.widget->style()->drawPrimitive(QStyle::PE_FrameFocusRect, &mark, &pPainter, pOption.widget);
-}
-
 } // namespace
 
 QSize CellDelegate::sizeHint(const QStyleOptionViewItem &pOption, const QModelIndex &pIndex) const {
     const QString text = ToQtLine(myModel.Cell(pIndex), mostShown);
     return {pOption.fontMetrics.horizontalAdvance(text) + 2 * MarginOf(pOption),
             pOption.fontMetrics.height()};
+}
+
+bool CellDelegate::helpEvent(QHelpEvent *pEvent, QAbstractItemView *pView,
+                             const QStyleOptionViewItem &pOption, const QModelIndex &pIndex) {
+    if (pEvent->type() != QEvent::ToolTip) {
+        return QAbstractItemDelegate::helpEvent(pEvent, pView, pOption, pIndex);
+    }
+    const bool isCut = pIndex.isValid() && sizeHint(pOption, pIndex).width() > pOption.rect.width();
+    ShowWholeText(*pEvent, *pView->viewport(), isCut ? myModel.Cell(pIndex) : std::string_view());
+    return true;
 }
 
 void CellDelegate::paint(QPainter *pPainter, const QStyleOptionViewItem &pOption,
@@ -86,8 +90,5 @@ void CellDelegate::paint(QPainter *pPainter, const QStyleOptionViewItem &pOption
         const auto role = isSelected ? QPalette::HighlightedText : QPalette::Text;
         pPainter->setPen(pOption.palette.color(group, role));
         DrawText(*pPainter, place, ToQtLine(myModel.Cell(pIndex), mostShown));
-    }
-    if (pOption.state.testFlag(QStyle::State_HasFocus) && !isSelected) {
-        DrawFocus(*pPainter, pOption, group); // A selected cell shows it by its colour.
     }
 }

@@ -2,10 +2,12 @@
 
 #include "desktop/CellDelegate.h"
 #include "desktop/Look.h"
+#include "desktop/WholeText.h"
 
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 
@@ -55,6 +57,7 @@ void RecordList::Prepare() {
     headings.setTextElideMode(Qt::ElideRight);
     headings.setMinimumSectionSize(0);
     headings.setStretchLastSection(false);
+    headings.viewport()->installEventFilter(this);
     FitRowHeight();
 }
 
@@ -85,6 +88,10 @@ void RecordList::Show() {
     }
     if (myShownColumns != myList.ColumnsRevision()) {
         ShowColumns();
+    }
+    if (myShownView != myList.ViewRevision()) {
+        myShownView = myList.ViewRevision();
+        ScrollTo(myList.WantedInView() - 1);
     }
 }
 
@@ -139,7 +146,7 @@ void RecordList::SelectedByOthers() {
     if (place == myList.SelectedIndex()) {
         return;
     }
-    if (place > 0 && place <= myList.ListItems.Count()) {
+    if (place > 0 && place <= myList.ListItems.Count() && MayTakeFocus()) {
         myActs.Handle([&] { myList.Pick(place); });
     }
     const QScopedValueRollback showing(myIsShowing, true);
@@ -207,8 +214,50 @@ void RecordList::keyPressEvent(QKeyEvent *pEvent) {
         horizontalScrollBar()->triggerAction(QScrollBar::SliderSingleStepAdd);
         break;
     default:
-        pEvent->ignore(); // Qt's search by letters would move the selection.
+        pEvent->setAccepted(PickByText(*pEvent));
     }
+}
+
+bool RecordList::PickByText(const QKeyEvent &pEvent) {
+    const auto held = pEvent.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    // Windows reports AltGr as both.
+    const bool isTyped = held == Qt::NoModifier || held == (Qt::ControlModifier | Qt::AltModifier);
+    if (!isTyped || pEvent.text().isEmpty() || !pEvent.text().at(0).isPrint()) {
+        return false;
+    }
+    const int place = mySearch.Typed(pEvent.text(), myList);
+    if (place > 0 && place != myList.SelectedIndex()) {
+        PickByKey(place);
+    }
+    return true;
+}
+
+void RecordList::paintEvent(QPaintEvent *pEvent) {
+    QTableView::paintEvent(pEvent);
+    const int row = currentIndex().row();
+    if (!hasFocus() || row < 0) {
+        return;
+    }
+    // Around the current row, selected or not: the first cell alone may be too narrow to show a mark.
+    const bool isSelected = selectionModel()->isRowSelected(row);
+    const int width = horizontalHeader()->length();
+    const QRect place(-horizontalScrollBar()->value(), rowViewportPosition(row), width, rowHeight(row));
+    QPainter painter(viewport());
+    painter.setPen(palette().color(isSelected ? QPalette::HighlightedText : QPalette::Highlight));
+    painter.drawRect(place.adjusted(0, 0, -2, -2)); // within the grid
+}
+
+bool RecordList::eventFilter(QObject *pWatched, QEvent *pEvent) {
+    const QHeaderView &headings = *horizontalHeader();
+    if (pWatched != headings.viewport() || pEvent->type() != QEvent::ToolTip) {
+        return QTableView::eventFilter(pWatched, pEvent);
+    }
+    const auto &help = static_cast<const QHelpEvent &>(*pEvent);
+    const int section = headings.logicalIndexAt(help.pos());
+    const bool isCut = section >= 0 && headings.sectionSizeHint(section) > headings.sectionSize(section);
+    ShowWholeText(help, *headings.viewport(),
+                  isCut ? std::string_view(myList.ColumnHeaders(section + 1).Text) : std::string_view());
+    return true;
 }
 
 void RecordList::mousePressEvent(QMouseEvent *pEvent) {

@@ -3,6 +3,7 @@
 /// Qt's selection only shows it.
 #include "desktop/ControlView.h"
 #include "desktop/RecordModel.h"
+#include "desktop/TypedSearch.h"
 
 #include <QTableView>
 #include <QTimer>
@@ -24,6 +25,8 @@ protected:
     void mouseMoveEvent(QMouseEvent *pEvent) override;
     void mouseReleaseEvent(QMouseEvent *pEvent) override;
     void changeEvent(QEvent *pEvent) override;
+    void paintEvent(QPaintEvent *pEvent) override;
+    bool eventFilter(QObject *pWatched, QEvent *pEvent) override;
 
 private:
     void Prepare();
@@ -34,14 +37,17 @@ private:
     void SelectedByOthers();
     void ScrollTo(int pRow);
     void PickByKey(int pPlace);
+    bool PickByText(const QKeyEvent &pEvent);
     int PlaceByKey(int pKey) const;
     int PageOfRows() const;
 
     ListView &myList;
     RecordModel myModel;
     QTimer mySelectedByOthers;
+    TypedSearch mySearch;
     bool myIsShowing = false;
     int myShownRows = 0;
     int myShownColumns = 0;
     int myShownSelected = 0;
+    int myShownView = 0;
 };

@@ -2,10 +2,13 @@
 
 #include "desktop/Look.h"
 #include "desktop/TextCodec.h"
+#include "desktop/WholeText.h"
 
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyle>
+
+#include <utility>
 
 LabelView::LabelView(Acts &pActs, const Label &pLabel, QWidget &pParent)
     : QLabel(&pParent), ControlView(pActs, pLabel), myLabel(pLabel) {
@@ -35,8 +38,30 @@ void LabelView::paintEvent(QPaintEvent *pEvent) {
                           QPalette::WindowText);
 }
 
+bool LabelView::IsCut() const {
+    const int needed = wordWrap() ? heightForWidth(width()) : fontMetrics().horizontalAdvance(text());
+    return needed > (wordWrap() ? height() : width());
+}
+
+bool LabelView::event(QEvent *pEvent) {
+    if (pEvent->type() != QEvent::ToolTip) {
+        return QLabel::event(pEvent);
+    }
+    ShowWholeText(static_cast<const QHelpEvent &>(*pEvent), *this,
+                  IsCut() ? std::string_view(myLabel.Caption()) : std::string_view());
+    return true;
+}
+
+void LabelView::mousePressEvent(QMouseEvent * /*pEvent*/) {
+    myIsPressed = true;
+}
+
+void LabelView::mouseDoubleClickEvent(QMouseEvent * /*pEvent*/) {
+    // The second press of a double click opens nothing again.
+}
+
 void LabelView::mouseReleaseEvent(QMouseEvent *pEvent) {
-    if (myLabel.IsLink() && pEvent->button() == Qt::LeftButton &&
+    if (std::exchange(myIsPressed, false) && myLabel.IsLink() && pEvent->button() == Qt::LeftButton &&
         rect().contains(pEvent->position().toPoint())) {
         myActs.Handle([this] { myLabel.Click.Raise(); });
     }

@@ -5,7 +5,8 @@
 
 #include <QLabel>
 
-/// A label of one line ends in an ellipsis if it is cut. A higher one wraps its text.
+/// A label of one line ends in an ellipsis if it is cut. A higher one wraps its text. A cut text shows whole
+/// as a tool tip.
 class LabelView : public QLabel, public ControlView {
 public:
     LabelView(Acts &pActs, const Label &pLabel, QWidget &pParent);
@@ -14,10 +15,16 @@ public:
 protected:
     void Show() override;
     void paintEvent(QPaintEvent *pEvent) override;
+    void mousePressEvent(QMouseEvent *pEvent) override;
+    void mouseDoubleClickEvent(QMouseEvent *pEvent) override;
     void mouseReleaseEvent(QMouseEvent *pEvent) override;
+    bool event(QEvent *pEvent) override;
 
 private:
+    bool IsCut() const;
+
     const Label &myLabel;
+    bool myIsPressed = false;
 };
 
 class PictureView : public QLabel, public ControlView {

@@ -32,6 +32,9 @@ void frmMain::AppOpen(const std::string &pFn) {
     if (!Dir(pFn).empty()) {
         LoadList(pFn);
     }
+    if (myRpt->Rows() > 0) {
+        ListView1.EnsureVisible(1);
+    }
     UpdateButtons();
 }
 

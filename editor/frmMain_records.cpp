@@ -35,6 +35,7 @@ void frmMain::AddRecord() {
         return;
     }
     myRpt->AddRow(TextsOfFields());
+    ListView1.EnsureVisible(myRpt->Rows());
 }
 
 void frmMain::UpdateRecord() {

@@ -1,5 +1,7 @@
 #include "platform/ListView.h"
 
+#include "text/Text.h"
+
 #include <algorithm>
 
 void ListItem::Texts(TextRow pTexts) {
@@ -76,6 +78,23 @@ void ListView::SelectedIndex(int pIndex) {
         myCurrent = mySelected;
     }
     Touch();
+}
+
+void ListView::EnsureVisible(int pIndex) {
+    myWantedInView = pIndex;
+    ++myViewRevision;
+    Touch();
+}
+
+int ListView::FindItem(std::string_view pStart, int pFrom) const {
+    const int count = ListItems.Count();
+    for (int step = 0; step < count; ++step) {
+        const int place = (pFrom - 1 + step) % count + 1;
+        if (BeginsWithIgnoringCase(ListItems(place).Text(), pStart)) {
+            return place;
+        }
+    }
+    return 0;
 }
 
 void ListView::Pick(int pIndex) {

@@ -110,6 +110,10 @@ public:
     /// selection is cleared.
     int CurrentIndex() const { return myCurrent; }
 
+    /// Place of the first item, counted from pFrom to the end and from there round to the one before it,
+    /// whose text begins with pStart, case ignored; 0 if there is none.
+    int FindItem(std::string_view pStart, int pFrom) const;
+
     /// The user picks item pIndex, from 1 to Count, by mouse or key. Also raises ItemClick if the item is
     /// selected already.
     void Pick(int pIndex);
@@ -118,6 +122,12 @@ public:
     /// selection raises neither, only Revision.
     int RowsRevision() const { return myRowsRevision; }
     int ColumnsRevision() const { return myColumnsRevision; }
+
+    /// Asks the desktop to scroll item pIndex into view.
+    void EnsureVisible(int pIndex);
+    /// The item last asked for, and a count that goes up each time.
+    int WantedInView() const { return myWantedInView; }
+    int ViewRevision() const { return myViewRevision; }
 
     Event<ListItem &> ItemClick;
 
@@ -136,4 +146,6 @@ private:
     int myCurrent = 0;
     int myRowsRevision = 1;
     int myColumnsRevision = 1;
+    int myWantedInView = 0;
+    int myViewRevision = 0;
 };
