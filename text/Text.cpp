@@ -155,13 +155,17 @@ std::string WithoutNewLineBreaks(std::string_view pBefore, std::string_view pAft
         ++back;
     }
     std::string text(pAfter.substr(0, front));
-    const std::size_t end = pAfter.size() - back;
+    std::size_t end = pAfter.size() - back;
+    const std::string_view kept = pAfter.substr(end);
+    while (end > front && IsLineBreak(pAfter[end - 1])) {
+        --end;
+    }
     for (std::size_t at = front; at < end; ++at) {
         const bool isPair = pAfter[at] == '\r' && at + 1 < end && pAfter[at + 1] == '\n';
         at += isPair ? 1 : 0;
         text += IsLineBreak(pAfter[at]) ? ' ' : pAfter[at];
     }
-    text += pAfter.substr(end);
+    text += kept;
     return text;
 }
 

@@ -46,5 +46,6 @@ int Utf16Length(std::string_view pText);
 std::string Quoted(std::string_view pText);
 
 /// An edit has changed the text of a single-line field from pBefore to pAfter. Returns pAfter with a blank
-/// for each line break (CR, LF or CR LF) that the edit brought in. Line breaks of pBefore stay.
+/// for each line break (CR, LF or CR LF) that the edit brought in, and without those at the end of what it
+/// brought in: a cell copied from a spreadsheet ends in one. Line breaks of pBefore stay.
 std::string WithoutNewLineBreaks(std::string_view pBefore, std::string_view pAfter);

@@ -7,7 +7,9 @@
 #include <QHeaderView>
 #include <QMessageBox>
 #include <QScrollBar>
+#include <QTextDocument>
 #include <QTimer>
+#include <QToolTip>
 #include <QWindow>
 
 namespace {
@@ -64,6 +66,54 @@ TEST_F(Records, arePickedByTheKeysAndByAssistiveTechnology) {
     EXPECT_EQ(acts, wanted);
 }
 
+TEST_F(Records, areFoundByTheirFirstLetters) {
+    list.ListItems(1).Text("\u00C4ra");
+    list.ListItems.Add({}).Text("apricot");
+    Sync();
+    table->setFocus();
+    QApplication::setKeyboardInputInterval(60'000);
+    for (const int key : {Qt::Key_Space, Qt::Key_A, Qt::Key_A, Qt::Key_A}) {
+        Key(key);
+    }
+    EXPECT_EQ(acts, "2 4 2 ") << "the same letter again goes on to the next";
+    Key(Qt::Key_X); // "ax" is none.
+    Key(Qt::Key_B, Qt::ControlModifier);
+    QApplication::setKeyboardInputInterval(0);
+    QTest::qWait(2);
+    for (const int key : {Qt::Key_B, Qt::Key_A}) {
+        Key(key);
+        QTest::qWait(2);
+    }
+    EXPECT_EQ(acts, "2 4 2 3 4 ") << "after a pause another search begins";
+    QApplication::setKeyboardInputInterval(60'000);
+    Key(Qt::Key_A);
+    Key(Qt::Key_P);
+    EXPECT_EQ(acts, "2 4 2 3 4 2 ") << "a longer text may still fit the current record";
+    QTest::simulateEvent(window->windowHandle(), true, Qt::Key_Adiaeresis, {}, "\u00E4", false);
+    EXPECT_EQ(acts, "2 4 2 3 4 2 ");
+}
+
+TEST_F(Records, showWholeWhatIsCut) {
+    list.ColumnHeaders.Width(1, 300);
+    list.ListItems(2).Text("<b>Apple & pear</b>");
+    Sync();
+    const auto tip = [](QWidget &pWidget, const QPoint &pAt) {
+        QHelpEvent help(QEvent::ToolTip, pAt, pWidget.mapToGlobal(pAt));
+        QApplication::sendEvent(&pWidget, &help);
+        QTextDocument document;
+        document.setHtml(QToolTip::text());
+        return document.toPlainText();
+    };
+    EXPECT_EQ(tip(*table->viewport(), {3, Row(2).y()}), "<b>Apple & pear</b>");
+    EXPECT_EQ(tip(*table->horizontalHeader()->viewport(), {3, 3}), "Name");
+    list.ColumnHeaders.Width(1, 3000);
+    Sync();
+    for (QWidget *part : {table->viewport(), table->horizontalHeader()->viewport()}) {
+        tip(*part, {3, 3});
+        EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); })) << "it isn't cut any more";
+    }
+}
+
 TEST_F(Records, scrollOnlyToTheOneThatTheUserPicksOrMoves) {
     for (int row = 0; row < 100; ++row) {
         list.ListItems.Add({}).Text("more");
@@ -80,6 +130,9 @@ TEST_F(Records, scrollOnlyToTheOneThatTheUserPicksOrMoves) {
     const auto isInView = [this](int pRow) {
         return table->viewport()->rect().contains(table->visualRect(table->model()->index(pRow - 1, 0)));
     };
+    list.EnsureVisible(104);
+    Sync();
+    EXPECT_TRUE(isInView(104)) << "asked for by the program";
     list.ListItems(5).Text("moved up");
     list.SelectedIndex(5);
     Sync();

@@ -30,7 +30,7 @@ TEST(Text, LengthsCountUtf16UnitsAndTrimTakesBlanksOnly) {
 }
 
 TEST(Text, LineBreaksThatAnEditBringsInBecomeBlanks) {
-    EXPECT_EQ(WithoutNewLineBreaks("", "a\r\nb\nc\rd\n\r"), "a b c d  ");
+    EXPECT_EQ(WithoutNewLineBreaks("", "a\r\nb\nc\rd\n\r"), "a b c d");
     EXPECT_EQ(WithoutNewLineBreaks("a\nb", "x\ny\na\nbc"), "x y a bc");
     EXPECT_EQ(WithoutNewLineBreaks("a\nb", "a\nbc"), "a\nbc") << "a line break that was there stays";
     EXPECT_EQ(WithoutNewLineBreaks("aa\n", "a\n"), "a\n") << "one of two equal characters is deleted";

@@ -41,7 +41,7 @@ class Desk:
         opener.write_text('#!/bin/sh\necho "$1" >>"%s"\n' % (self.folder / "opened"))
         opener.chmod(0o755)
         os.environ["PATH"] = "%s:%s" % (opener.parent, os.environ["PATH"])
-        self.screen = Screen(os.environ)
+        self.screen = Screen(os.environ, os.environ.get("NORVO_SESSION_MANAGER", "openbox"))
 
     def start(self, *words, **environment):
         """Starts the editor on words. No setting of the machine's user reaches it: its home is empty."""
@@ -116,6 +116,10 @@ class Desk:
         """Whether the object is in a state such as ENABLED or FOCUSED."""
         node.clear_cache()
         return node.get_state_set().contains(getattr(Atspi.StateType, name))
+
+    def description(self, node):
+        node.clear_cache()
+        return node.get_description()
 
     def focused(self):
         """Name of the innermost object that has the focus; None while none has it."""

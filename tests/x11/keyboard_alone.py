@@ -83,7 +83,7 @@ def session(d, share):
     assert "_NET_WM_STATE_SKIP_TASKBAR" in states, states
     for text in ("NorvoEditDat", "1.00.0020", "Easily edit data files."):
         d.find("label", text)
-    d.click(d.find("label", "\xa9 2026 the authors"))
+    d.click(d.find("label", "\xa9 2026 the authors"), times=2)
     d.expect(d.opened, [page, "https://norvo.example/"], "the link handed to the desktop")
     d.key("Return")
     d.focus(TITLE)
@@ -92,6 +92,7 @@ def session(d, share):
     d.find("label", "Are you sure?")
     d.key("Return")
     assert d.ends() == (0, ""), d.ends()
+    assert len(d.opened()) == 2, "a double click opened the link twice"
 
 
 desk.main(session)

@@ -34,23 +34,36 @@ def session(d, _share):
         d.key(*keys.split())
         d.expect(shown, (text, selected), "after the keys " + keys)
 
-    # A text that isn't listed keeps the focus, whichever way out the user tries, and no click is delivered. The key
-    # after each attempt goes to the field that has the focus.
-    for count, attempt in enumerate((
-            lambda: d.key("Tab"), lambda: d.key("shift+Tab"), lambda: d.key("alt+a"), lambda: d.click(name, times=2),
-            lambda: d.click(kind), lambda: d.click(d.find("table", "Records")),
-            lambda: d.click(d.find("push button", "Add"))), start=3):
+    # A text that isn't listed keeps the focus, whichever way out the user tries, and no press is delivered: also from
+    # the menu bar, and by assistive technology. The key after each attempt goes to the field that has the focus.
+    add, records, box = d.find("push button", "Add"), d.find("table", "Records"), d.find("combo box", "Fruit")
+
+    def from_menu_bar(way_out):
+        d.key("Alt_L")
+        d.expect(lambda: d.state(d.find("menu item", "File"), "FOCUSED"), True, "the focus in the menu bar")
+        way_out()
+
+    attempts = (
+        lambda: d.key("Tab"), lambda: d.key("shift+Tab"), lambda: d.key("alt+a"), lambda: d.click(name, times=2),
+        lambda: d.click(kind), lambda: d.click(records), lambda: d.click(add),
+        lambda: from_menu_bar(lambda: d.click(add)), lambda: from_menu_bar(lambda: d.key("alt+a")),
+        lambda: from_menu_bar(lambda: d.click(name)),
+        lambda: add.get_action_iface().do_action(0), lambda: name.get_component_iface().grab_focus(),
+        lambda: records.get_table_iface().add_row_selection(0))
+    for count, attempt in enumerate(attempts, start=3):
         attempt()
+        d.expect(lambda: d.description(box), "not one of the listed values", "the sign of attempt %d" % (count - 2))
         d.key("z")
         d.expect(shown, ("z" * count, ""), "the text in the refusing field, attempt %d" % (count - 2))
-    assert d.table().get_n_rows() == 2, "the refused click on Add was delivered"
+    assert (d.table().get_n_rows(), d.text("Name")) == (2, ""), "a refused press or pick was delivered"
     d.key("ctrl+a")
     d.click(fruit)
-    d.expect(shown, ("z" * 9, ""), "a click into the refusing field itself")
+    d.expect(shown, ("z" * (2 + len(attempts)), ""), "a click into the refusing field itself")
 
     # What is completed gets the capitals of the entry.
     d.key("ctrl+a")
     d.type("APPLE")
+    d.expect(lambda: d.description(box), "one of the listed values", "the sign goes")
     d.key("Tab")
     d.expect(d.focused, "Kind", "the next field")
     assert d.text("Fruit") == "Apple", d.text("Fruit")
