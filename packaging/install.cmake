@@ -36,3 +36,6 @@ install(FILES share/icons/norvo-editdat.svg
     DESTINATION "${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps" RENAME "${application}.svg")
 install(FILES share/NorvoEditDat.1 DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")
 install(FILES README.md LICENSE DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/norvo-edit-dat")
+# The README shows these, by their places beside it.
+install(FILES share/Help/main.png DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/norvo-edit-dat/share/Help")
+install(FILES docs/dark.png DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/norvo-edit-dat/docs")

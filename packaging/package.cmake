@@ -28,8 +28,10 @@ set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # The forms are laid out for the metrics of this font. No library depends on it.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS fonts-liberation)
-# qt6-wayland is for desktops without X. xdg-utils finds the program that opens the help page.
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland, xdg-utils")
+# qt6-wayland is for desktops without X.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland")
+# It finds the program that opens the help page. Most desktops have it. To recommend it would bring a terminal.
+set(CPACK_DEBIAN_PACKAGE_SUGGESTS "xdg-utils")
 
 configure_file(packaging/copyright.in copyright @ONLY)
 set(CPACK_NORVO_COPYRIGHT "${CMAKE_CURRENT_BINARY_DIR}/copyright")

@@ -58,7 +58,7 @@ id=example.norvo.EditDat
 for path in usr/lib/NorvoEditDat/{NorvoEditDat.dat,timezones.dat,countries.txt,areas.txt} \
     usr/share/icons/hicolor/{16x16,32x32,48x48,256x256}/apps/$id.png \
     usr/share/icons/hicolor/scalable/apps/$id.svg \
-    usr/share/doc/norvo-edit-dat/{README.md,copyright,changelog.gz}; do
+    usr/share/doc/norvo-edit-dat/{README.md,share/Help/main.png,docs/dark.png,copyright,changelog.gz}; do
     [ -s "$root/$path" ] || fail "$path is not in the package"
 done
 [ "$(readlink "$root/usr/bin/NorvoEditDat")" = ../lib/NorvoEditDat/NorvoEditDat ] ||
