@@ -5,6 +5,7 @@
 #include "text/TextRow.h"
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -69,6 +70,11 @@ public:
     /// file name is set or when the first row of a CSV file has no words.
     void Load();
 
+    /// Calls pWatch for each line that Load takes for a row: with the line, and its words. If Load stops at a
+    /// line, that is the last one.
+    using LineWatch = std::function<void(std::string_view pLine, const TextRow &pWords)>;
+    void Watch(LineWatch pWatch) { myWatch = std::move(pWatch); }
+
     /// Writes the table to the file. Does nothing if no file name is set.
     void Save();
 
@@ -87,6 +93,7 @@ private:
 
     void StopWithoutFileName() const;
     bool TakeFaultOf(const TextInput &pFile);
+    TextRow TakeWords(TextInput &pFile, TextRowRoom &pRoom) const;
     void TakeSizeFrom(TextInput &pFile);
     void TakeAnnouncedRowsFrom(TextInput &pFile);
     void TakeRowsUpToARaggedOne(TextInput &pFile);
@@ -111,6 +118,7 @@ private:
     /// announced size costs nothing. myStoredCols is the width.
     std::vector<TextRow> myData;
     std::int16_t myStoredCols = 0;
+    LineWatch myWatch;
     std::string myFault;
     bool myWasRead = true;
 };

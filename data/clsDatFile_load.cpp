@@ -62,6 +62,15 @@ void clsDatFile::LoadDat() {
     TakeFaultOf(file);
 }
 
+TextRow clsDatFile::TakeWords(TextInput &pFile, TextRowRoom &pRoom) const {
+    const std::string_view line = pFile.LineInput();
+    TextRow words = modGetWords::GetWords(line, pRoom);
+    if (myWatch) {
+        myWatch(line, words);
+    }
+    return words;
+}
+
 void clsDatFile::TakeAnnouncedRowsFrom(TextInput &pFile) {
     TextRowRoom room;
     for (std::int16_t row = 0; row < myRows; ++row) {
@@ -72,7 +81,7 @@ void clsDatFile::TakeAnnouncedRowsFrom(TextInput &pFile) {
             myData.resize(static_cast<std::size_t>(row));
             return;
         }
-        TextRow words = modGetWords::GetWords(pFile.LineInput(), room);
+        TextRow words = TakeWords(pFile, room);
         if (words.Count() != myCols) {
             return; // The remaining rows stay empty, and myRows stays as announced.
         }
@@ -84,7 +93,7 @@ void clsDatFile::TakeRowsUpToARaggedOne(TextInput &pFile) {
     TextRowRoom room;
     const int cols = myData.front().Count();
     while (!pFile.AtEnd() && std::cmp_less_equal(myData.size(), mostRows)) {
-        TextRow words = modGetWords::GetWords(pFile.LineInput(), room);
+        TextRow words = TakeWords(pFile, room);
         if (words.Count() != cols) {
             break; // The table ends before this line.
         }
@@ -103,7 +112,8 @@ void clsDatFile::LoadCsv(bool pHasHeaders) {
         TakeFaultOf(file);
         return;
     }
-    const TextRow first = modGetWords::GetWords(file.LineInput());
+    TextRowRoom room;
+    const TextRow first = TakeWords(file, room);
     if (TakeFaultOf(file)) {
         return;
     }

@@ -1,6 +1,7 @@
 #include "editor/SpecColumns.h"
 
 #include "data/clsDatFile.h"
+#include "text/Files.h"
 #include "text/Numbers.h"
 #include "text/Text.h"
 
@@ -66,6 +67,10 @@ std::string ReadRow(const clsDatFile &pSpec, std::int16_t pRow, SpecColumn &pCol
 
 std::string SpecColumn::Tag() const {
     return "X=" + FormatWhole(place) + "/100 W=" + FormatWhole(percent) + "/100";
+}
+
+std::string SpecColumn::ListPath(const std::string &pProgramFolder) const {
+    return Dir(listFile).empty() ? pProgramFolder + "\\" + listFile : listFile;
 }
 
 SpecColumns::SpecColumns(const clsDatFile &pSpec) : myFault(TableFault(pSpec)) {

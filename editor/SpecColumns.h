@@ -18,6 +18,9 @@ struct SpecColumn {
 
     /// The option string by which label and field follow the window's width.
     std::string Tag() const;
+
+    /// Where the list file is: as named if Dir finds it there, else below pProgramFolder.
+    std::string ListPath(const std::string &pProgramFolder) const;
 };
 
 class SpecColumns {

@@ -84,8 +84,7 @@ TextField &frmMain::AddField(const std::string &pName, const SpecColumn &pColumn
 }
 
 void frmMain::FillCombo(clsCombo &pCombo, ComboBox &pBox, const SpecColumn &pColumn) const {
-    const bool isFound = !Dir(pColumn.listFile).empty();
-    const std::string listFile = isFound ? pColumn.listFile : myRuntime.App().Path + "\\" + pColumn.listFile;
+    const std::string listFile = pColumn.ListPath(myRuntime.App().Path);
     pCombo.cb(pBox);
     pCombo.Mode(pColumn.mode);
     pCombo.LoadFromTxtFile(listFile);
