@@ -89,6 +89,7 @@ void clsDatFile::Clear() {
 void clsDatFile::Load() {
     myFault.clear();
     myWasRead = true;
+    myReachedEnd = false;
     try {
         switch (myFmt) {
         case fmtDat:

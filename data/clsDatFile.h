@@ -84,6 +84,8 @@ public:
     /// Whether the last Load could read the file. If not, the table is empty. A fault of a file that was read
     /// concerns its size: it holds fewer records than its first line announces, or announces none that fit.
     bool WasRead() const { return myWasRead; }
+    /// Whether it took all lines of the file for rows, and left none after them.
+    bool ReachedEnd() const { return myReachedEnd; }
 
 private:
     void LoadDat();
@@ -121,4 +123,5 @@ private:
     LineWatch myWatch;
     std::string myFault;
     bool myWasRead = true;
+    bool myReachedEnd = false;
 };

@@ -59,6 +59,7 @@ void clsDatFile::LoadDat() {
     TakeSizeFrom(file);
     file.LineInput(); // The first line may hold more than the two numbers.
     TakeAnnouncedRowsFrom(file);
+    myReachedEnd = file.AtEnd();
     TakeFaultOf(file);
 }
 
@@ -126,6 +127,7 @@ void clsDatFile::LoadCsv(bool pHasHeaders) {
     myStoredCols = myCols;
     myData.assign(1, first);
     TakeRowsUpToARaggedOne(file);
+    myReachedEnd = file.AtEnd();
     if (TakeFaultOf(file)) {
         return;
     }
