@@ -2,18 +2,26 @@
 
 #include "platform/Runtime.h"
 #include "text/Files.h"
+#include "text/Memory.h"
 #include "text/Numbers.h"
 
-#include <new>
 #include <utility>
 
 namespace {
+
+/// Room for the words of a fault beside the file's name: the system's reason, and our own.
+constexpr std::size_t mostFaultBytes = Reason::mostBytes + 250;
 
 [[noreturn]] void StopOutOfBounds(const Runtime &pRuntime, const std::string &pWhat, std::int16_t pValue) {
     pRuntime.Stop("clsDatFile." + pWhat + " out of bounds (" + Str(pValue) + ")");
 }
 
 } // namespace
+
+void clsDatFile::FileName(std::string fn) {
+    myFault.reserve(fn.size() + mostFaultBytes);
+    myFn = std::move(fn);
+}
 
 bool clsDatFile::Exists() const {
     return !myFn.empty() && !Dir(myFn).empty();
@@ -90,44 +98,44 @@ void clsDatFile::Load() {
     myFault.clear();
     myWasRead = true;
     myReachedEnd = false;
-    try {
+    const bool isDone = HasMemoryFor([this] {
         switch (myFmt) {
         case fmtDat:
-            LoadDat();
-            break;
+            return LoadDat();
         case fmtCsv:
-            LoadCsv(/*pHasHeaders=*/false);
-            break;
+            return LoadCsv(/*pHasHeaders=*/false);
         case fmtCsvWithHeaders:
-            LoadCsv(/*pHasHeaders=*/true);
-            break;
+            return LoadCsv(/*pHasHeaders=*/true);
         default:
-            break;
+            return;
         }
-    } catch (const std::bad_alloc &) {
-        LeaveUnread("can't be read: There is not enough memory for it.");
+    });
+    if (!isDone) {
+        GiveUpLoading();
     }
+}
+
+void clsDatFile::GiveUpLoading() {
+    LeaveUnread({"can't be read: There is not enough memory for it."});
 }
 
 void clsDatFile::Save() {
     myFault.clear();
-    try {
+    const bool isDone = HasMemoryFor([this] {
         switch (myFmt) {
         case fmtDat:
-            SaveDat();
-            break;
+            return SaveDat();
         case fmtCsv:
-            SaveCsv(/*pHasHeaders=*/false);
-            break;
+            return SaveCsv(/*pHasHeaders=*/false);
         case fmtCsvWithHeaders:
-            SaveCsv(/*pHasHeaders=*/true);
-            break;
+            return SaveCsv(/*pHasHeaders=*/true);
         default:
-            break;
+            return;
         }
-    } catch (const std::bad_alloc &) {
+    });
+    if (!isDone) {
         // The writers get all their memory before they touch the file.
-        KeepFault("can't be saved: There is not enough memory for it. The records are still in the list.");
+        KeepFault({"can't be saved: There is not enough memory for it. The records are still in the list."});
     }
 }
 
@@ -137,11 +145,15 @@ void clsDatFile::StopWithoutFileName() const {
     }
 }
 
-void clsDatFile::KeepFault(const std::string &pText) {
-    myFault = "File " + myFn + " " + pText;
+/// Needs no memory: FileName has got it.
+void clsDatFile::KeepFault(std::initializer_list<std::string_view> pText) {
+    myFault.assign("File ").append(myFn).append(" ");
+    for (const std::string_view piece : pText) {
+        myFault.append(piece);
+    }
 }
 
-void clsDatFile::LeaveUnread(const std::string &pWhy) {
+void clsDatFile::LeaveUnread(std::initializer_list<std::string_view> pWhy) {
     EmptyTable(0);
     myWasRead = false;
     KeepFault(pWhy);
@@ -151,7 +163,7 @@ bool clsDatFile::TakeFaultOf(const TextInput &pFile) {
     if (pFile.Fault().empty()) {
         return false;
     }
-    LeaveUnread("can't be read: " + pFile.Fault() + ".");
+    LeaveUnread({"can't be read: ", pFile.Fault(), "."});
     return true;
 }
 

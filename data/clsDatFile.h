@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -26,7 +27,9 @@ public:
 
     explicit clsDatFile(const Runtime &pRuntime) : myRuntime(pRuntime) {}
 
-    void FileName(std::string fn) { myFn = std::move(fn); }
+    /// Also gets the memory for all that Fault may have to say of this file. If there is none, the name stays
+    /// as it was.
+    void FileName(std::string fn);
     const std::string &FileName() const { return myFn; }
 
     /// Whether the file name is set and Dir finds that file.
@@ -87,6 +90,10 @@ public:
     /// Whether it took all lines of the file for rows, and left none after them.
     bool ReachedEnd() const { return myReachedEnd; }
 
+    /// Leaves the file unread after all, for want of memory: there was none to take over what it holds. Needs
+    /// none itself.
+    void GiveUpLoading();
+
 private:
     void LoadDat();
     void LoadCsv(bool pHasHeaders);
@@ -100,8 +107,8 @@ private:
     void TakeAnnouncedRowsFrom(TextInput &pFile);
     void TakeRowsUpToARaggedOne(TextInput &pFile);
     void EmptyTable(int pCols);
-    void LeaveUnread(const std::string &pWhy);
-    void KeepFault(const std::string &pText);
+    void LeaveUnread(std::initializer_list<std::string_view> pWhy);
+    void KeepFault(std::initializer_list<std::string_view> pText);
 
     std::size_t MostLineBytes(const TextRow &pTitles) const;
     void PrintRow(TextOutput &pFile, const TextRow &pCells) const;

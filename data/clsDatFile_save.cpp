@@ -38,8 +38,8 @@ std::size_t clsDatFile::MostLineBytes(const TextRow &pTitles) const {
     for (const TextRow &row : myData) {
         most = std::max(most, row.Run().size());
     }
-    constexpr std::size_t sizes = 16; // of the .dat form's first line
-    return std::max(sizes, 2 * most + 3 * static_cast<std::size_t>(myCols)) + copySlack;
+    constexpr std::size_t firstLine = 16; // of the .dat form, with the sizes
+    return std::max(firstLine, 2 * most + 3 * static_cast<std::size_t>(myCols)) + copySlack;
 }
 
 void clsDatFile::PrintRow(TextOutput &pFile, const TextRow &pCells) const {
@@ -75,8 +75,9 @@ void clsDatFile::SaveDat() {
     if (myFn.empty()) {
         return;
     }
+    const std::string sizes = FormatWhole(myRows) + "," + FormatWhole(myCols); // before the file is touched
     TextOutput file(myFn, MostLineBytes({}));
-    file.PrintLine(FormatWhole(myRows) + "," + FormatWhole(myCols));
+    file.PrintLine(sizes);
     PrintRows(file);
     Finish(file);
 }
@@ -97,7 +98,7 @@ void clsDatFile::SaveCsv(bool pHasHeaders) {
 void clsDatFile::Finish(TextOutput &pFile) {
     pFile.Close();
     if (!pFile.Fault().empty()) {
-        KeepFault("can't be saved: " + pFile.Fault() + ". The records are still in the list." +
-                  (pFile.MayBeIncomplete() ? " The file itself may now be incomplete." : ""));
+        KeepFault({"can't be saved: ", pFile.Fault(), ". The records are still in the list.",
+                   pFile.MayBeIncomplete() ? " The file itself may now be incomplete." : ""});
     }
 }

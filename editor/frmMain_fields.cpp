@@ -89,7 +89,8 @@ void frmMain::FillCombo(clsCombo &pCombo, ComboBox &pBox, const SpecColumn &pCol
     pCombo.Mode(pColumn.mode);
     pCombo.LoadFromTxtFile(listFile);
     if (!pCombo.Fault().empty()) {
-        TellFault("List file " + listFile + " can't be read: " + pCombo.Fault() + ". The list of " +
+        const std::string reason(pCombo.Fault());
+        TellFault("List file " + listFile + " can't be read: " + reason + ". The list of " +
                   Quoted(pColumn.heading) + " is empty, and the field takes any text.");
     }
     if (pColumn.mode >= 1 && pBox.ListCount() > 0) {

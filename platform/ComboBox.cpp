@@ -4,14 +4,15 @@
 #include "text/Text.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 ComboBox::ComboBox(Form &pParent, std::string pName) : TextField(pParent, std::move(pName)) {
     SizedControl::Height(fixedHeightTwips);
 }
 
-void ComboBox::Text(const std::string &pText) {
-    TextField::Text(pText);
+void ComboBox::Text(std::string pText) {
+    TextField::Text(std::move(pText));
     myListIndex = -1;
     myWasTypedIn = false;
     myIsRefusing = false;
@@ -23,6 +24,16 @@ void ComboBox::AddItem(std::string pEntry) {
     Touch();
 }
 
+void ComboBox::AddItems(std::vector<std::string> pEntries) {
+    if (myList.empty()) {
+        myList = std::move(pEntries);
+    } else {
+        myList.reserve(myList.size() + pEntries.size());
+        std::move(pEntries.begin(), pEntries.end(), std::back_inserter(myList));
+    }
+    Touch();
+}
+
 void ComboBox::Clear() {
     myList.clear();
     myListIndex = -1;
@@ -30,13 +41,13 @@ void ComboBox::Clear() {
 }
 
 void ComboBox::ListIndex(int pIndex) {
-    myListIndex = pIndex;
     if (pIndex >= 0) {
         TextField::Text(List(pIndex));
         myWasTypedIn = false; // A picked entry is not typed text.
         myIsRefusing = false;
         SelStart(0);
     }
+    myListIndex = pIndex;
     Touch();
 }
 

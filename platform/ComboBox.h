@@ -21,12 +21,14 @@ public:
     using TextField::Text;
     /// Shows pText, whether or not the list holds it. No entry is current then, and the caret is at its
     /// start.
-    void Text(const std::string &pText) override;
+    void Text(std::string pText) override;
 
     int ListCount() const { return static_cast<int>(myList.size()); }
     /// Entry pIndex, from 0 to ListCount() - 1.
     const std::string &List(int pIndex) const { return myList[static_cast<std::size_t>(pIndex)]; }
     void AddItem(std::string pEntry);
+    /// Adds all of pEntries, or throws and adds none.
+    void AddItems(std::vector<std::string> pEntries);
     void Clear();
 
     /// The number of the current entry, -1 for none. To set an entry puts it into Text; -1 leaves Text alone.

@@ -1,5 +1,7 @@
 #include "platform/Control.h"
 
+#include <utility>
+
 void SizedControl::Left(double pTwips) {
     myLeft = pTwips;
     Touch();
@@ -37,7 +39,7 @@ void SizedControl::Enabled(bool pEnabled) {
     Touch();
 }
 
-void TextField::Text(const std::string &pText) {
-    myText = pText;
+void TextField::Text(std::string pText) {
+    myText = std::move(pText);
     Touch();
 }

@@ -26,8 +26,7 @@ public:
 
     /// Goes up with each visible change. A desktop remembers the number that it showed last.
     int Revision() const { return myRevision; }
-
-protected:
+    /// Makes the number go up without a change, so that a desktop shows the control anew.
     void Touch() { ++myRevision; }
 
 private:
@@ -92,7 +91,7 @@ public:
 
     /// The text in the field. To set it runs no check.
     const std::string &Text() const { return myText; }
-    virtual void Text(const std::string &pText);
+    virtual void Text(std::string pText);
 
 private:
     std::string myText;

@@ -32,28 +32,27 @@ bool TextInput::ReadMore() {
     if (!myHasMore) {
         return false;
     }
-    if (Unread().size() >= mostLineBytes) {
-        myFault = "A line is longer than 2 GB";
-        myHasMore = false;
-        myAt = myEnd;
-        return false;
-    }
-    if (myEnd == myBuffer.size()) {
+    if (myEnd == mySize) {
         MakeRoom();
     }
-    const std::size_t count = myFile.Read(&myBuffer[myEnd], myBuffer.size() - myEnd);
+    const std::size_t count = myFile.Read(&myBuffer[myEnd], mySize - myEnd);
     myEnd += count;
     myHasMore = count > 0;
     return myHasMore;
 }
 
 void TextInput::MakeRoom() {
-    std::copy(Unread().begin(), Unread().end(), myBuffer.begin());
-    myEnd -= std::exchange(myAt, 0);
-    if (2 * myEnd >= myBuffer.size()) {
-        // One line takes up most of the buffer.
-        myBuffer.resize(std::clamp(2 * myBuffer.size(), blockBytes, mostLineBytes));
+    const std::string_view unread = Unread();
+    if (2 * unread.size() < mySize) {
+        std::copy(unread.begin(), unread.end(), myBuffer.get());
+    } else { // One line takes up most of the buffer.
+        const std::size_t size = std::max(2 * mySize, blockBytes);
+        auto larger = std::make_unique_for_overwrite<char[]>(size);
+        std::copy(unread.begin(), unread.end(), larger.get());
+        myBuffer = std::move(larger);
+        mySize = size;
     }
+    myEnd -= std::exchange(myAt, 0);
 }
 
 /// Length of the rest of the current line. Reads until all of it is in the buffer.

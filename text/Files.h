@@ -17,13 +17,9 @@ class TextInput {
 public:
     explicit TextInput(const std::string &pName) : myFile(pName) {}
 
-    /// A longer line is a fault. No table has a line of 2 GB, but one in a damaged file would fill the
-    /// memory.
-    static constexpr std::size_t mostLineBytes = std::size_t{1} << 31U;
-
     /// The reason why the file could not be read; empty while there is none. After a fault the file seems to
     /// end there, so ask again after the last read.
-    const std::string &Fault() const { return myFault.empty() ? myFile.Fault() : myFault; }
+    std::string_view Fault() const { return myFile.Fault(); }
 
     /// True when the next read would find nothing.
     bool AtEnd();
@@ -37,14 +33,14 @@ public:
     std::optional<std::string_view> InputItem();
 
 private:
-    std::string_view Unread() const { return std::string_view(myBuffer).substr(myAt, myEnd - myAt); }
+    std::string_view Unread() const { return {myBuffer.get() + myAt, myEnd - myAt}; }
     bool ReadMore();
     void MakeRoom();
     std::size_t LineLength();
 
     os::FileReader myFile;
-    std::string myFault;
-    std::string myBuffer; ///< the bytes read but not yet handed out lie from myAt to myEnd
+    std::unique_ptr<char[]> myBuffer; ///< the bytes read but not yet handed out lie from myAt to myEnd
+    std::size_t mySize = 0;           ///< of the buffer
     std::size_t myAt = 0;
     std::size_t myEnd = 0;
     bool myHasMore = true;
@@ -53,8 +49,8 @@ private:
 /// A file open for output, whose old content is lost. It writes block by block.
 class TextOutput {
 public:
-    /// pMostBytes is the most that any line needs. The room for it is made before the file is touched, so
-    /// memory can't run out halfway.
+    /// pMostBytes is the most that any line needs. The room for it is made before the file is touched. After
+    /// that no operation needs memory, so it can't run out halfway.
     TextOutput(const std::string &pName, std::size_t pMostBytes);
 
     /// Adds pText, at most pMostBytes long, and a line end, CR LF.
@@ -70,7 +66,7 @@ public:
 
     /// The system's reason for the first fault since the file was opened. Empty while there was none; after
     /// Close the file is then complete on disk.
-    const std::string &Fault() const { return myFile.Fault(); }
+    std::string_view Fault() const { return myFile.Fault(); }
     /// Whether a fault has left the file without its old content and without all of the new one.
     bool MayBeIncomplete() const { return !Fault().empty() && myFile.WasEmptied(); }
 

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <iterator>
 #include <limits>
 
 namespace {
@@ -123,11 +124,10 @@ std::string FormatWhole(double pValue) {
     if (rounded == 0 || !std::isfinite(rounded)) {
         return "0"; // never "-0"
     }
-    std::string digits(std::numeric_limits<double>::max_exponent10 + 3, '\0');
+    char digits[std::numeric_limits<double>::max_exponent10 + 3];
     const auto [end, error] =
-        std::to_chars(digits.data(), digits.data() + digits.size(), rounded, std::chars_format::fixed, 0);
-    digits.resize(static_cast<std::size_t>(end - digits.data()));
-    return digits;
+        std::to_chars(std::begin(digits), std::end(digits), rounded, std::chars_format::fixed, 0);
+    return {digits, end};
 }
 
 std::string FormatDigits(int pValue, int pDigits) {

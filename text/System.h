@@ -1,6 +1,8 @@
 #pragma once
 /// The calls of the operating system that the program needs, with one implementation for POSIX and one for
 /// Windows. Paths are UTF-8; NativePath gives the rule for separators.
+#include "text/Reason.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -13,7 +15,8 @@ namespace os {
 std::string NativePath(const std::string &pPath);
 
 /// Whether pPath names something that exists and is no folder. Where the system has such attributes, hidden
-/// files and system files do not count.
+/// files and system files do not count. What the system can't look at (no right to its folder, a loop of
+/// links) counts, so that to open it says why.
 bool IsFile(const std::string &pPath);
 
 /// Whether pPath names a folder.
@@ -33,11 +36,11 @@ public:
     std::size_t Read(char *pRoom, std::size_t pSize);
 
     /// The system's reason in words; empty while there is no fault.
-    const std::string &Fault() const { return myFault; }
+    std::string_view Fault() const { return myFault.Words(); }
 
 private:
     std::intptr_t myHandle;
-    std::string myFault;
+    Reason myFault;
 };
 
 /// A file whose content is replaced. The constructor empties or creates the file. A pipe or a socket is a
@@ -55,14 +58,14 @@ public:
     void Close();
 
     /// The system's reason in words. Empty while there is no fault; after Close that means that everything is
-    /// on the disk.
-    const std::string &Fault() const { return myFault; }
+    /// on the disk. From the constructor on, no operation needs memory.
+    std::string_view Fault() const { return myFault.Words(); }
     /// Whether the constructor got as far as creating or emptying the file.
     bool WasEmptied() const { return myWasEmptied; }
 
 private:
     std::intptr_t myHandle;
-    std::string myFault;
+    Reason myFault;
     bool myWasEmptied = false;
 };
 

@@ -28,8 +28,11 @@ bool StatusOf(const std::string &pPath, struct stat &pStatus) {
     return IsUsable(pPath) && stat(os::NativePath(pPath).c_str(), &pStatus) == 0;
 }
 
-std::string Reason(int pError) {
-    return std::strerror(pError);
+/// The system's words for pError. In the user's own language they could be in any encoding, and would need
+/// memory.
+const char *WordsFor(int pError) {
+    static const locale_t plain = newlocale(LC_ALL_MASK, "C", nullptr);
+    return plain == nullptr ? "Fault" : strerror_l(pError, plain);
 }
 
 /// A descriptor of pPath; -1, with errno set, if the system refuses. Opening a pipe doesn't wait.
@@ -75,7 +78,10 @@ std::string NativePath(const std::string &pPath) {
 
 bool IsFile(const std::string &pPath) {
     struct stat status {};
-    return StatusOf(pPath, status) && !S_ISDIR(status.st_mode);
+    if (StatusOf(pPath, status)) {
+        return !S_ISDIR(status.st_mode);
+    }
+    return IsUsable(pPath) && errno != ENOENT && errno != ENOTDIR;
 }
 
 bool IsFolder(const std::string &pPath) {
@@ -87,13 +93,13 @@ FileReader::FileReader(const std::string &pPath)
     : myHandle(IsUsable(pPath) ? Open(NativePath(pPath), O_RDONLY) : noHandle) {
     struct stat status {};
     if (!IsUsable(pPath)) {
-        myFault = Reason(ENOENT);
+        myFault.Words(WordsFor(ENOENT));
     } else if (myHandle == noHandle || fstat(Descriptor(myHandle), &status) != 0) {
-        myFault = Reason(errno);
+        myFault.Words(WordsFor(errno));
     } else if (S_ISDIR(status.st_mode)) {
-        myFault = Reason(EISDIR);
+        myFault.Words(WordsFor(EISDIR));
     } else if (!S_ISREG(status.st_mode)) {
-        myFault = "Not a regular file";
+        myFault.Words("Not a regular file");
     }
 }
 
@@ -102,13 +108,13 @@ FileReader::~FileReader() {
 }
 
 std::size_t FileReader::Read(char *pRoom, std::size_t pSize) {
-    while (myFault.empty()) {
+    while (Fault().empty()) {
         const ssize_t count = read(Descriptor(myHandle), pRoom, pSize);
         if (count >= 0) {
             return static_cast<std::size_t>(count);
         }
         if (errno != EINTR) {
-            myFault = Reason(errno);
+            myFault.Words(WordsFor(errno));
         }
     }
     return 0;
@@ -116,25 +122,25 @@ std::size_t FileReader::Read(char *pRoom, std::size_t pSize) {
 
 FileWriter::FileWriter(const std::string &pPath) : myHandle(noHandle) {
     if (!IsUsable(pPath)) {
-        myFault = Reason(ENOENT);
+        myFault.Words(WordsFor(ENOENT));
         return;
     }
     const std::string path = NativePath(pPath);
     struct stat status {};
     const bool wasThere = stat(path.c_str(), &status) == 0;
     if (wasThere && IsPipe(status)) {
-        myFault = "Not a regular file";
+        myFault.Words("Not a regular file");
         return;
     }
     myHandle = Open(path, O_WRONLY | O_CREAT);
     if (myHandle == noHandle || fstat(Descriptor(myHandle), &status) != 0) {
-        myFault = Reason(errno);
+        myFault.Words(WordsFor(errno));
     } else if (IsPipe(status)) {
-        myFault = "Not a regular file"; // It has replaced the file since the first look.
+        myFault.Words("Not a regular file"); // It has replaced the file since the first look.
     } else {
         const bool hasContent = S_ISREG(status.st_mode); // A device has no content.
         const bool isEmpty = !hasContent || ftruncate(Descriptor(myHandle), 0) == 0;
-        myFault = isEmpty ? "" : Reason(errno);
+        myFault.Words(isEmpty ? "" : WordsFor(errno));
         myWasEmptied = isEmpty ? hasContent : !wasThere;
     }
 }
@@ -144,21 +150,21 @@ FileWriter::~FileWriter() {
 }
 
 void FileWriter::Write(std::string_view pBytes) {
-    while (myFault.empty() && !pBytes.empty()) {
+    while (Fault().empty() && !pBytes.empty()) {
         const ssize_t written = write(Descriptor(myHandle), pBytes.data(), pBytes.size());
         if (written > 0) {
             pBytes.remove_prefix(static_cast<std::size_t>(written));
         } else if (written == 0) {
-            myFault = Reason(ENOSPC); // The system took nothing, and would take nothing again.
+            myFault.Words(WordsFor(ENOSPC)); // The system took nothing, and would take nothing again.
         } else if (errno != EINTR) {
-            myFault = Reason(errno);
+            myFault.Words(WordsFor(errno));
         }
     }
 }
 
 void FileWriter::Close() {
-    if (myFault.empty() && (!Flush(Descriptor(myHandle)) || !GiveBack(myHandle))) {
-        myFault = Reason(errno);
+    if (Fault().empty() && (!Flush(Descriptor(myHandle)) || !GiveBack(myHandle))) {
+        myFault.Words(WordsFor(errno));
     }
 }
 

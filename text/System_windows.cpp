@@ -38,18 +38,24 @@ std::string Utf8(const wchar_t *pText, std::size_t pLength) {
     return text;
 }
 
-/// The system's words for pError, without the full stop and the line end that it adds.
-std::string Reason(DWORD pError) {
-    wchar_t words[512];
-    constexpr DWORD how = FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS;
+/// Puts the system's words for pError into pReason, without the full stop and the line end that it adds.
+void Tell(Reason &pReason, DWORD pError) {
+    wchar_t words[Reason::mostBytes / 3]; // A UTF-16 unit takes three bytes at most.
+    constexpr DWORD how =
+        FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS | FORMAT_MESSAGE_MAX_WIDTH_MASK;
     const DWORD length = FormatMessageW(how, nullptr, pError, 0, words, std::size(words), nullptr);
-    std::string reason = Utf8(words, length);
-    reason.erase(reason.find_last_not_of(" .\r\n") + 1);
-    return reason.empty() ? "Error " + std::to_string(pError) : reason;
+    char bytes[Reason::mostBytes];
+    const int size = WideCharToMultiByte(CP_UTF8, 0, words, static_cast<int>(length), bytes,
+                                         static_cast<int>(std::size(bytes)), nullptr, nullptr);
+    const std::string_view text(bytes, static_cast<std::size_t>(size));
+    pReason.Words(text.substr(0, text.find_last_not_of(" .\r\n") + 1));
+    if (pReason.Words().empty()) {
+        pReason.Words("Fault");
+    }
 }
 
-std::string LastReason() {
-    return Reason(GetLastError());
+void TellLast(Reason &pReason) {
+    Tell(pReason, GetLastError());
 }
 
 /// INVALID_FILE_ATTRIBUTES when nothing of that name is there.
@@ -59,6 +65,12 @@ DWORD AttributesOf(const std::wstring &pPath) {
 
 bool HasAny(DWORD pAttributes, DWORD pWanted) {
     return pAttributes != INVALID_FILE_ATTRIBUTES && (pAttributes & pWanted) != 0;
+}
+
+/// Whether pError says that there is nothing of a name, or can't be.
+bool IsAbsence(DWORD pError) {
+    return pError == ERROR_FILE_NOT_FOUND || pError == ERROR_PATH_NOT_FOUND || pError == ERROR_INVALID_NAME ||
+           pError == ERROR_INVALID_DRIVE || pError == ERROR_BAD_NETPATH;
 }
 
 const std::intptr_t noHandle = reinterpret_cast<std::intptr_t>(INVALID_HANDLE_VALUE);
@@ -104,7 +116,11 @@ std::string NativePath(const std::string &pPath) {
 }
 
 bool IsFile(const std::string &pPath) {
-    const DWORD attributes = AttributesOf(Wide(NativePath(pPath)));
+    const std::wstring path = Wide(NativePath(pPath));
+    const DWORD attributes = AttributesOf(path);
+    if (!path.empty() && attributes == INVALID_FILE_ATTRIBUTES) {
+        return !IsAbsence(GetLastError());
+    }
     constexpr DWORD unseen = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
     return attributes != INVALID_FILE_ATTRIBUTES && !HasAny(attributes, unseen);
 }
@@ -116,19 +132,19 @@ bool IsFolder(const std::string &pPath) {
 FileReader::FileReader(const std::string &pPath) : myHandle(noHandle) {
     const std::wstring path = Wide(NativePath(pPath));
     if (path.empty()) {
-        myFault = Reason(ERROR_INVALID_NAME);
+        Tell(myFault, ERROR_INVALID_NAME);
         return;
     }
     if (HasAny(AttributesOf(path), FILE_ATTRIBUTE_DIRECTORY)) {
-        myFault = "Is a folder";
+        myFault.Words("Is a folder");
         return;
     }
     constexpr DWORD share = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
     myHandle = Open(path, GENERIC_READ, share, OPEN_EXISTING);
     if (myHandle == noHandle) {
-        myFault = LastReason();
+        TellLast(myFault);
     } else if (GetFileType(Native(myHandle)) != FILE_TYPE_DISK) {
-        myFault = "Not a regular file";
+        myFault.Words("Not a regular file");
     }
 }
 
@@ -138,8 +154,8 @@ FileReader::~FileReader() {
 
 std::size_t FileReader::Read(char *pRoom, std::size_t pSize) {
     DWORD count = 0;
-    if (myFault.empty() && ::ReadFile(Native(myHandle), pRoom, SizeForCall(pSize), &count, nullptr) == 0) {
-        myFault = LastReason();
+    if (Fault().empty() && ::ReadFile(Native(myHandle), pRoom, SizeForCall(pSize), &count, nullptr) == 0) {
+        TellLast(myFault);
         return 0;
     }
     return count;
@@ -148,29 +164,31 @@ std::size_t FileReader::Read(char *pRoom, std::size_t pSize) {
 FileWriter::FileWriter(const std::string &pPath) : myHandle(noHandle) {
     const std::wstring path = Wide(NativePath(pPath));
     if (path.empty()) {
-        myFault = Reason(ERROR_INVALID_NAME);
+        Tell(myFault, ERROR_INVALID_NAME);
         return;
     }
     const DWORD attributes = AttributesOf(path);
     if (HasAny(attributes, FILE_ATTRIBUTE_DIRECTORY)) {
-        myFault = "Is a folder";
+        myFault.Words("Is a folder");
         return;
     }
     const bool wasThere = attributes != INVALID_FILE_ATTRIBUTES;
     // Not CREATE_ALWAYS: it refuses to empty a hidden file, and it empties before the kind is known.
     myHandle = Open(path, GENERIC_WRITE, FILE_SHARE_READ, OPEN_ALWAYS);
     if (myHandle == noHandle) {
-        myFault = LastReason();
+        TellLast(myFault);
         return;
     }
     const DWORD kind = GetFileType(Native(myHandle));
     if (kind != FILE_TYPE_DISK && kind != FILE_TYPE_CHAR) {
-        myFault = "Not a regular file";
+        myFault.Words("Not a regular file");
         return;
     }
     const bool hasContent = kind == FILE_TYPE_DISK; // A device has no content.
     const bool isEmpty = !hasContent || SetEndOfFile(Native(myHandle)) != 0;
-    myFault = isEmpty ? "" : LastReason();
+    if (!isEmpty) {
+        TellLast(myFault);
+    }
     myWasEmptied = isEmpty ? hasContent : !wasThere;
 }
 
@@ -179,13 +197,13 @@ FileWriter::~FileWriter() {
 }
 
 void FileWriter::Write(std::string_view pBytes) {
-    while (myFault.empty() && !pBytes.empty()) {
+    while (Fault().empty() && !pBytes.empty()) {
         DWORD written = 0;
         if (::WriteFile(Native(myHandle), pBytes.data(), SizeForCall(pBytes.size()), &written, nullptr) ==
             0) {
-            myFault = LastReason();
+            TellLast(myFault);
         } else if (written == 0) {
-            myFault = Reason(ERROR_DISK_FULL); // The system took nothing, and would take nothing again.
+            Tell(myFault, ERROR_DISK_FULL); // The system took nothing, and would take nothing again.
         }
         pBytes.remove_prefix(written);
     }
@@ -193,8 +211,8 @@ void FileWriter::Write(std::string_view pBytes) {
 
 void FileWriter::Close() {
     const bool isDevice = !myWasEmptied; // A device has nothing to flush.
-    if (myFault.empty() && ((!isDevice && !Flush(Native(myHandle))) || !GiveBack(myHandle))) {
-        myFault = LastReason();
+    if (Fault().empty() && ((!isDevice && !Flush(Native(myHandle))) || !GiveBack(myHandle))) {
+        TellLast(myFault);
     }
 }
 

@@ -3,6 +3,7 @@
 #include "text/System.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace {
 
@@ -131,13 +132,14 @@ bool BeginsWithIgnoringCase(std::string_view pText, std::string_view pStart) {
 }
 
 int Utf16Length(std::string_view pText) {
-    int units = 0;
+    std::size_t units = 0;
     for (std::size_t at = 0; at < pText.size();) {
         const CodePoint character = CodePointAt(pText, at);
         units += character.length == 4 ? 2 : 1;
         at += character.length;
     }
-    return units;
+    constexpr int most = std::numeric_limits<int>::max();
+    return units < static_cast<std::size_t>(most) ? static_cast<int>(units) : most;
 }
 
 std::string WithoutNewLineBreaks(std::string_view pBefore, std::string_view pAfter) {

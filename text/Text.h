@@ -40,6 +40,7 @@ bool EqualIgnoringCase(std::string_view pOne, std::string_view pOther);
 bool BeginsWithIgnoringCase(std::string_view pText, std::string_view pStart);
 
 /// Length of pText in UTF-16 units, which places of the caret count in. A byte that is not UTF-8 is one unit.
+/// A longer text than an int can count has the greatest length.
 int Utf16Length(std::string_view pText);
 
 /// pText in double quotes for a message: on one line, and cut after 60 bytes.

@@ -6,7 +6,9 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <limits>
 #include <memory>
+#include <new>
 #include <span>
 #include <string>
 #include <string_view>
@@ -55,7 +57,7 @@ struct TextRowRoom {
 class TextRowBuilder {
 public:
     /// Makes room for pMostTexts texts of pMostBytes bytes in all. Texts that lie in pSource are copied
-    /// faster than others.
+    /// faster than others. 4 GB are too many for a row, and count as a lack of memory.
     TextRowBuilder(TextRowRoom &pRoom, std::size_t pMostTexts, std::size_t pMostBytes,
                    std::string_view pSource = {});
 
@@ -88,6 +90,9 @@ private:
 inline TextRowBuilder::TextRowBuilder(TextRowRoom &pRoom, std::size_t pMostTexts, std::size_t pMostBytes,
                                       std::string_view pSource)
     : mySource(pSource) {
+    if (pMostBytes > std::numeric_limits<TextRow::Place>::max()) {
+        throw std::bad_alloc();
+    }
     pRoom.run.resize(std::max(pRoom.run.size(), pMostBytes + copySlack));
     pRoom.ends.resize(std::max(pRoom.ends.size(), pMostTexts));
     myRun = myText = myTextEnd = pRoom.run.data();

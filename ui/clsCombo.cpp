@@ -3,7 +3,11 @@
 #include "platform/ComboBox.h"
 #include "platform/KeyCodes.h"
 #include "text/Files.h"
+#include "text/Memory.h"
 #include "text/Text.h"
+
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -34,15 +38,24 @@ void clsCombo::Clear() {
 }
 
 void clsCombo::LoadFromTxtFile(const std::string &pFn) {
-    myFault.clear();
+    myFault.Words({});
     if (Dir(pFn).empty()) {
         return;
     }
-    TextInput file(pFn);
-    while (!file.AtEnd()) {
-        myCB->AddItem(std::string(file.LineInput()));
+    const bool isDone = HasMemoryFor([&] {
+        std::vector<std::string> entries; // First all of them, since half a list would refuse good texts.
+        TextInput file(pFn);
+        while (!file.AtEnd()) {
+            entries.emplace_back(file.LineInput());
+        }
+        myFault.Words(file.Fault());
+        if (myFault.Words().empty()) {
+            myCB->AddItems(std::move(entries));
+        }
+    });
+    if (!isDone) {
+        myFault.Words("There is not enough memory for it");
     }
-    myFault = file.Fault();
 }
 
 void clsCombo::myCB_KeyUp(int KeyCode, int /*Shift*/) {

@@ -1,8 +1,11 @@
 #pragma once
 /// Makes a combo box a field for data entry: fills its list from a text file, keeps the focus while the text
 /// isn't listed, and completes typed text. It serves the box during its own lifetime; the form owns the box.
+#include "text/Reason.h"
+
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 class ComboBox;
 
@@ -26,8 +29,9 @@ public:
     /// Adds each line of the file pFn, unchanged, to the end of the list. Does nothing if Dir doesn't find
     /// the file.
     void LoadFromTxtFile(const std::string &pFn);
-    /// The system's reason why the last file was there but could not be read. Empty when it could.
-    const std::string &Fault() const { return myFault; }
+    /// The reason why the last file was there but could not be read. Empty when it could. After a fault the
+    /// file has added nothing.
+    std::string_view Fault() const { return myFault.Words(); }
 
 private:
     void myCB_KeyUp(int KeyCode, int Shift);
@@ -36,5 +40,5 @@ private:
 
     ComboBox *myCB = nullptr;
     std::int16_t myMode = 0;
-    std::string myFault;
+    Reason myFault;
 };

@@ -2,6 +2,13 @@
 
 #include "tests/support/Program.h"
 
+#ifdef __linux__
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
+
+using namespace std::string_literals;
+
 const std::string caption = "Norvo Data File Editor";
 
 TEST(Start, ReadsFilesTitleAndFormatFromTheCommandLine) {
@@ -46,15 +53,25 @@ TEST(Start, EndsWithOneMessageOnABadCommandLineOrSpecification) {
     EXPECT_EQ(program.Start("/csv /t Title \"" + spec + "\" a.dat").ExitStatus(), 1);
 }
 
-#ifndef _WIN32 // Elsewhere there is no /dev/null.
-TEST(Start, SaysWhichFileCanNotBeRead) {
+#ifdef __linux__
+TEST(Start, SaysWhyAFileThatIsThereCanNotBeRead) {
     Program program;
-    program.Files().Write("NorvoEditDat.dat", "1,4\r\nA,100,1,/dev/null\r\n");
-    program.Script().Expect({"List file /dev/null can't be read: Not a regular file. The list of \"A\" is "
-                             "empty, and the field takes any text.",
-                             MessageButtons::Ok, caption});
-    program.Script().Expect({"File /dev/null can't be read: Not a regular file.", MessageButtons::Ok, "T"});
-    program.Start("/t T /dev/null").Type("A", "any").Press("Add");
-    EXPECT_EQ(program.Window(), "T\nA[any]\n  any\nAdd (Move Up) (Delete) (Move Down) Save As Cancel\n");
+    const TemporaryFolder &files = program.Files();
+    ASSERT_EQ(mkfifo(files.File("pipe").c_str(), 0600), 0); // Nobody writes to it: a reader that waits hangs.
+    ASSERT_EQ(symlink("loop", files.File("loop").c_str()), 0);
+    for (const auto &[name, reason] : {std::pair("/dev/zero"s, "Not a regular file"),
+                                       {files.File("pipe"), "Not a regular file"},
+                                       {files.File("loop"), "Too many levels of symbolic links"},
+                                       {files.File(std::string(256, 'n')), "File name too long"},
+                                       {"/proc/self/mem", "Input/output error"}}) {
+        program.Files().Write("NorvoEditDat.dat", "1,4\r\nA,100,1," + name + "\r\n");
+        program.Script().Expect({"List file " + name + " can't be read: " + reason +
+                                     ". The list of \"A\" is empty, and the field takes any text.",
+                                 MessageButtons::Ok, caption});
+        program.Script().Expect(
+            {"File " + name + " can't be read: " + reason + ".", MessageButtons::Ok, "T"});
+        program.Start("/t T " + name).Type("A", "any").Press("Add");
+        EXPECT_EQ(program.Window(), "T\nA[any]\n  any\nAdd (Move Up) (Delete) (Move Down) Save As Cancel\n");
+    }
 }
 #endif

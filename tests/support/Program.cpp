@@ -63,6 +63,8 @@ Program &Program::Act(const std::function<void()> &pAct) {
 }
 
 Program &Program::Start(const std::string &pCommand) {
+    myModule.reset(); // Before the controls that it serves.
+    myFocus = nullptr;
     myRuntime = std::make_unique<Runtime>(myScript, MakeAppRecord(myFiles.File(myExeName)), pCommand);
     myModule = std::make_unique<modMain>(*myRuntime);
     return Act([&] {

@@ -4,7 +4,6 @@
 #include "platform/KeyCodes.h"
 #include "platform/Runtime.h"
 #include "tests/support/ScriptedDesktop.h"
-#include "tests/support/TemporaryFolder.h"
 #include "text/Text.h"
 
 namespace {
@@ -94,18 +93,4 @@ TEST_F(Combo, RefusesAnUnlistedText) {
     }
     myCombo.Clear();
     EXPECT_TRUE(myBox.MayLoseFocus()) << "an empty list takes any text";
-}
-
-TEST_F(Combo, SearchesALongListToItsEnd) {
-    std::string lines;
-    for (int i = 0; i < 200000; ++i) {
-        lines += "Entry " + std::to_string(i) + "\r\n";
-    }
-    const TemporaryFolder folder;
-    myCombo.LoadFromTxtFile(folder.Write("list.txt", lines));
-    EXPECT_EQ(Type('8', "entry 199998"), "Entry 199998/12+0");
-    myBox.Text("ENTRY 199999");
-    EXPECT_TRUE(myBox.MayLoseFocus());
-    myBox.Text("entry 200000");
-    EXPECT_FALSE(myBox.MayLoseFocus());
 }

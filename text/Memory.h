@@ -1,0 +1,24 @@
+#pragma once
+/// Running out of memory. This is the only place that catches it; whoever calls decides what is undone and
+/// told.
+#include <new>
+#include <utility>
+
+/// Runs pAct. Returns false if memory ran out in the middle of it.
+template <typename Act> bool HasMemoryFor(Act &&pAct) {
+    try {
+        std::forward<Act>(pAct)();
+        return true;
+    } catch (const std::bad_alloc &) {
+        return false;
+    }
+}
+
+/// Runs pAct. If memory runs out in the middle of it, runs pUndo, which needs none, and leaves the rest to
+/// the caller.
+template <typename Act, typename Undo> void RunOrUndo(Act &&pAct, Undo &&pUndo) {
+    if (!HasMemoryFor(std::forward<Act>(pAct))) {
+        std::forward<Undo>(pUndo)();
+        throw std::bad_alloc();
+    }
+}
