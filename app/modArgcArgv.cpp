@@ -3,6 +3,7 @@
 #include "text/Cursor.h"
 
 #include <optional>
+#include <utility>
 
 namespace modArgcArgv {
 
@@ -24,24 +25,23 @@ std::optional<std::string_view> TakeWord(Cursor &pCommand) {
 
 } // namespace
 
-int argc(std::string_view pCommand) {
+std::vector<std::string> Words(std::string_view pCommand) {
     Cursor command(pCommand);
-    int words = 0;
-    while (TakeWord(command)) {
-        ++words;
+    std::vector<std::string> words;
+    while (const std::optional<std::string_view> word = TakeWord(command)) {
+        std::erase(words.emplace_back(*word), '"');
     }
     return words;
 }
 
+int argc(std::string_view pCommand) {
+    return static_cast<int>(Words(pCommand).size());
+}
+
 std::string argv(std::string_view pCommand, int pIndex) {
-    Cursor command(pCommand);
-    std::optional<std::string_view> word;
-    for (int index = 1; index <= pIndex; ++index) {
-        word = TakeWord(command);
-    }
-    std::string text(word.value_or(""));
-    std::erase(text, '"');
-    return text;
+    const std::vector<std::string> words = Words(pCommand);
+    const bool isThere = pIndex >= 1 && std::cmp_less_equal(pIndex, words.size());
+    return isThere ? words[static_cast<std::size_t>(pIndex - 1)] : std::string();
 }
 
 } // namespace modArgcArgv

@@ -8,9 +8,6 @@
 #include "text/Numbers.h"
 #include "text/Text.h"
 
-using modArgcArgv::argc;
-using modArgcArgv::argv;
-
 namespace {
 
 /// The command line names a specification file and a data file, and no more.
@@ -30,16 +27,14 @@ void modMain::Main() {
 }
 
 std::vector<std::string> modMain::ReadWords() {
-    const std::string &command = myRuntime.Command();
-    const int limit = argc(command);
+    const std::vector<std::string> words = modArgcArgv::Words(myRuntime.Command());
     std::vector<std::string> args;
-    // One word too many settles the matter. A shell can hand over thousands, and each costs a walk through
-    // the text.
-    for (int i = 1; i <= limit && args.size() <= mostNames; ++i) {
-        const std::string word = argv(command, i);
+    // One word too many settles the matter.
+    for (std::size_t i = 0; i < words.size() && args.size() <= mostNames; ++i) {
+        const std::string &word = words[i];
         const std::string lower = LCase(word);
         if (lower == "-t" || lower == "/t") {
-            gTitle = argv(command, ++i);
+            gTitle = ++i < words.size() ? words[i] : "";
         } else if (lower == "-v" || lower == "/v") {
             ++i; // Its word has no effect.
         } else if (lower == "-csv" || lower == "/csv") {
