@@ -99,6 +99,7 @@ void clsDatFile::Load() {
     myWasRead = true;
     myReachedEnd = false;
     const bool isDone = HasMemoryFor([this] {
+        const Headroom headroom;
         switch (myFmt) {
         case fmtDat:
             return LoadDat();

@@ -7,6 +7,7 @@
 #include "desktop/RecordList.h"
 #include "desktop/StillViews.h"
 #include "desktop/TextCodec.h"
+#include "text/Memory.h"
 
 namespace {
 
@@ -27,8 +28,11 @@ void ControlView::Sync() {
         return;
     }
     myShownRevision = myControl.Revision();
-    ShowCommon();
-    Show();
+    const auto show = [this] {
+        ShowCommon();
+        Show();
+    };
+    RunOrUndo(show, [this] { myShownRevision = 0; });
 }
 
 QRect ControlView::PlaceOf() const {

@@ -4,6 +4,7 @@
 #include "desktop/FileDialog.h"
 #include "desktop/TextCodec.h"
 #include "platform/Runtime.h"
+#include "text/Memory.h"
 #include "text/System.h"
 
 #include <QApplication>
@@ -20,8 +21,32 @@
 
 namespace {
 
-/// A longer prompt is cut after this many UTF-16 units, so that the box fits on the screen.
+/// A longer prompt loses its middle, so that the box fits on the screen and shows the reason at the end. In
+/// UTF-16 units.
 constexpr int mostOfPrompt = 4000;
+
+QString ShownPrompt(std::string_view pPrompt) {
+    QString prompt = ToQt(pPrompt);
+    if (prompt.size() > mostOfPrompt) {
+        constexpr int half = mostOfPrompt / 2;
+        prompt = prompt.left(half) + QChar(0x2026) + prompt.right(half - 1);
+    }
+    return prompt.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+}
+
+/// The address of a file or folder. Bytes that are not UTF-8 stand in it as they are, which Qt's own wouldn't
+/// have.
+QUrl FileAddress(const std::string &pPath) {
+    const QString path = QFileInfo(ToQt(pPath)).absoluteFilePath();
+    return path.isValidUtf16()
+               ? QUrl::fromLocalFile(path)
+               : QUrl::fromEncoded("file://" +
+                                   QByteArray::fromStdString(FromQt(path)).toPercentEncoding("/"));
+}
+
+/// Memory set aside for showing a message when there is no other. Nothing is written to it, so it only counts
+/// as taken once it is used.
+constexpr std::size_t spareBytes = std::size_t{16} << 20U;
 
 /// Whether pTarget is a web address or the like. A single letter before the colon is a drive.
 bool IsAddress(const std::string &pTarget) {
@@ -31,7 +56,7 @@ bool IsAddress(const std::string &pTarget) {
 
 } // namespace
 
-QtDesktop::QtDesktop() {
+QtDesktop::QtDesktop() : mySpare(std::make_unique_for_overwrite<char[]>(spareBytes)) {
     // Qt's file dialog writes a settings file when it closes. The program keeps no state, so the settings go
     // to a place where Qt can't write.
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("/dev/null"));
@@ -65,8 +90,14 @@ void QtDesktop::Handle(const std::function<void()> &pAct) {
 void QtDesktop::Note(const std::function<void()> &pAct) {
     {
         const QScopedValueRollback depth(myDepth, myDepth + 1);
-        pAct();
-        Sync();
+        if (myRuntime == nullptr) {
+            pAct();
+        } else {
+            myRuntime->Act(pAct);
+        }
+        if (!HasMemoryFor([this] { Sync(); }) && myRuntime != nullptr) {
+            myRuntime->MsgBox("There is not enough memory to show all of this. Nothing is lost.");
+        }
     }
     // Only the outermost act ends the program. The rest of a handler that unloads a form still has to run.
     if (myDepth == 0 && myRuntime != nullptr) {
@@ -88,13 +119,24 @@ QWidget *QtDesktop::ActiveWindow() const {
 }
 
 MessageAnswer QtDesktop::ShowMessage(const Message &pMessage) {
-    Sync();
+    mySpare.reset();
+    MessageAnswer answer = MessageAnswer::Cancel; // The program does least after it.
+    HasMemoryFor([this] { Sync(); });
+    if (!HasMemoryFor([&] { answer = Ask(pMessage); })) {
+        std::fwrite(pMessage.prompt.data(), 1, pMessage.prompt.size(), stderr);
+        std::fputs("\n", stderr);
+    }
+    mySpare.reset(new (std::nothrow) char[spareBytes]);
+    return answer;
+}
+
+MessageAnswer QtDesktop::Ask(const Message &pMessage) {
     QMessageBox box(ActiveWindow());
     box.setIcon(pMessage.buttons == MessageButtons::CriticalStop ? QMessageBox::Critical
                                                                  : QMessageBox::NoIcon);
     box.setWindowTitle(ToQtTitle(pMessage.title));
     box.setTextFormat(Qt::PlainText);
-    box.setText(ToQt(pMessage.prompt, mostOfPrompt).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
+    box.setText(ShownPrompt(pMessage.prompt));
     QPushButton *ok = box.addButton(QMessageBox::Ok);
     box.setDefaultButton(ok);
     box.setEscapeButton(ok);
@@ -137,8 +179,7 @@ void QtDesktop::OpenTarget(const std::string &pTarget) {
     if (IsAddress(pTarget)) {
         QDesktopServices::openUrl(QUrl(ToQt(pTarget)));
     } else if (os::IsFile(pTarget) || os::IsFolder(pTarget)) {
-        const QFileInfo file(ToQt(os::NativePath(pTarget)));
-        QDesktopServices::openUrl(QUrl::fromLocalFile(file.absoluteFilePath()));
+        QDesktopServices::openUrl(FileAddress(os::NativePath(pTarget)));
     }
 }
 

@@ -8,6 +8,7 @@
 #include <QPointer>
 
 #include <map>
+#include <memory>
 
 class Runtime;
 
@@ -37,10 +38,12 @@ public:
 
 private:
     void Sync();
+    MessageAnswer Ask(const Message &pMessage);
     QWidget *ActiveWindow() const;
 
     const Runtime *myRuntime = nullptr;
     std::map<const Form *, QPointer<FormWindow>> myWindows;
     HeldKeys myHeldKeys;
-    int myDepth = 0; ///< running acts, one inside the other
+    std::unique_ptr<char[]> mySpare; ///< given up while a message is shown
+    int myDepth = 0;                 ///< running acts, one inside the other
 };

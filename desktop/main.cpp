@@ -1,14 +1,14 @@
 /// The program: composes desktop, runtime and editor, and runs the event loop.
 #include "app/VersionRecord.h"
 #include "app/modMain.h"
+#include "desktop/Application.h"
 #include "desktop/ContrastStyle.h"
 #include "desktop/Look.h"
 #include "desktop/QtDesktop.h"
 #include "platform/Runtime.h"
 #include "text/System.h"
 
-#include <QApplication>
-
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -20,7 +20,7 @@ int main(int argc, char *argv[]) {
     std::string name(versionRecord::productName);
     char *words[] = {name.data(), nullptr};
     int wordCount = 1;
-    QApplication application(wordCount, words);
+    const Application application(wordCount, words);
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setDesktopFileName(QStringLiteral("example.norvo.EditDat"));
     QApplication::setWindowIcon(ProgramIcon());
@@ -31,7 +31,10 @@ int main(int argc, char *argv[]) {
     QtDesktop desktop;
     Runtime runtime(desktop, MakeAppRecord(os::ProgramFile()), command);
     desktop.Serves(runtime);
-    modMain module(runtime);
-    desktop.Handle([&] { module.Main(); });
+    std::unique_ptr<modMain> module;
+    desktop.Handle([&] {
+        module = std::make_unique<modMain>(runtime);
+        module->Main();
+    });
     return QApplication::exec();
 }

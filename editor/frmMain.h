@@ -14,6 +14,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 class SpecColumns;
@@ -79,7 +80,7 @@ private:
     void BuildFields(const SpecColumns &pColumns);
     TextField &AddField(const std::string &pName, const SpecColumn &pColumn);
     void FillCombo(clsCombo &pCombo, ComboBox &pBox, const SpecColumn &pColumn) const;
-    [[noreturn]] void StopOnSpecification(const std::string &pPrompt);
+    [[noreturn]] void StopOnSpecification(std::string_view pPrompt);
 
     // Moving records.
     void cmdAdd_Click();
@@ -102,7 +103,7 @@ private:
     void cmdCancel_Click();
     void SetDialogFilter();
     /// Shows pText in a message; nothing when it is empty.
-    void TellFault(const std::string &pText) const;
+    void TellFault(std::string_view pText) const;
 
     // Button states.
     void UpdateButtons();

@@ -18,7 +18,7 @@ constexpr double gapTwips = 10; // between neighbouring fields
 
 } // namespace
 
-void frmMain::StopOnSpecification(const std::string &pPrompt) {
+void frmMain::StopOnSpecification(std::string_view pPrompt) {
     myRuntime.MsgBox(pPrompt, MessageButtons::CriticalStop, myForm.Caption());
     myForm.Unload();
     myRuntime.End(1);

@@ -3,6 +3,7 @@
 #include "editor/frmMain.h"
 #include "platform/Runtime.h"
 #include "text/Files.h"
+#include "text/Memory.h"
 #include "text/Numbers.h"
 
 namespace {
@@ -15,7 +16,7 @@ std::string FormatMessage(const std::string &pFn, const clsDatFile &pDat, const 
 
 } // namespace
 
-void frmMain::TellFault(const std::string &pText) const {
+void frmMain::TellFault(std::string_view pText) const {
     if (!pText.empty()) {
         myRuntime.MsgBox(pText, MessageButtons::Ok, myForm.Caption());
     }
@@ -26,10 +27,15 @@ std::vector<std::string> frmMain::Titles() const {
 }
 
 void frmMain::AppOpen(const std::string &pFn) {
+    // All that can run out of memory comes before the first change. From the clearing on, a lack of memory is
+    // a fault of the file.
+    std::vector<std::string> titles = Titles();
+    const bool isThere = !Dir(pFn).empty();
     myDat->FileName(pFn);
-    myDat->Headers(Titles());
+    myDat->Headers(std::move(titles));
     myRpt->Clear();
-    if (!Dir(pFn).empty()) {
+    UpdateButtons(); // A message may come before the end.
+    if (isThere) {
         LoadList(pFn);
     }
     if (myRpt->Rows() > 0) {
@@ -40,18 +46,27 @@ void frmMain::AppOpen(const std::string &pFn) {
 
 void frmMain::LoadList(const std::string &pFn) {
     myDat->Load();
-    // One message only: if the columns don't fit, the number of records matters little.
-    if (myDat->WasRead() && myDat->Cols() != mySpec->Rows()) {
-        TellFault(FormatMessage(pFn, *myDat, *mySpec));
-        return;
+    std::string misfit;
+    const bool isFilled = HasMemoryFor([&] {
+        const Headroom headroom;
+        // One message only: if the columns don't fit, the number of records matters little.
+        if (myDat->WasRead() && myDat->Cols() != mySpec->Rows()) {
+            misfit = FormatMessage(pFn, *myDat, *mySpec);
+            return;
+        }
+        for (std::int16_t i = 0; i < myDat->Rows(); ++i) {
+            myRpt->AddRow(myDat->Row(i));
+        }
+    });
+    if (!isFilled) {
+        myRpt->Clear();
+        myDat->GiveUpLoading();
     }
-    for (std::int16_t i = 0; i < myDat->Rows(); ++i) {
-        myRpt->AddRow(myDat->Row(i));
-    }
-    TellFault(myDat->Fault());
+    TellFault(misfit.empty() ? myDat->Fault() : misfit);
 }
 
 void frmMain::AppSave(const std::string &pFn) {
+    std::vector<std::string> titles = Titles(); // A run that has opened no file has given none yet.
     myDat->Rows(myRpt->Rows());
     myDat->Cols(myRpt->Cols());
     myDat->Clear();
@@ -59,7 +74,7 @@ void frmMain::AppSave(const std::string &pFn) {
         myDat->Row(i, myRpt->Row(i));
     }
     myDat->FileName(pFn);
-    myDat->Headers(Titles()); // A run that has opened no file has no titles yet.
+    myDat->Headers(std::move(titles));
     myDat->Save();
     TellFault(myDat->Fault());
 }

@@ -2,6 +2,7 @@
 // the only state: "Update" while the fields hold the selected row.
 #include "editor/frmMain.h"
 
+#include "text/Memory.h"
 #include "text/Numbers.h"
 
 TextField &frmMain::Field(int pIndex) const {
@@ -9,6 +10,7 @@ TextField &frmMain::Field(int pIndex) const {
 }
 
 TextRow frmMain::TextsOfFields() const {
+    const Headroom headroom;
     std::vector<std::string> texts;
     texts.reserve(static_cast<std::size_t>(mySpec->Rows()));
     for (int i = 0; i < mySpec->Rows(); ++i) {
@@ -67,10 +69,15 @@ void frmMain::cmdMoveDown_Click() {
 }
 
 void frmMain::ListView1_ItemClick() {
-    cmdAdd.Caption("Update");
+    const Headroom headroom;
     const TextRow record = myRpt->Row(myRpt->SelectedRow());
+    std::vector<std::string> texts; // All of them first: the fields take the whole record or none of it.
     for (int i = 0; i < mySpec->Rows(); ++i) {
-        Field(i).Text(std::string(record(i + 1)));
+        texts.emplace_back(record(i + 1));
+    }
+    cmdAdd.Caption("Update");
+    for (int i = 0; i < mySpec->Rows(); ++i) {
+        Field(i).Text(std::move(texts[static_cast<std::size_t>(i)]));
     }
     UpdateButtons();
 }

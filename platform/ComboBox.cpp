@@ -1,6 +1,7 @@
 #include "platform/ComboBox.h"
 
 #include "platform/KeyCodes.h"
+#include "text/Memory.h"
 #include "text/Text.h"
 
 #include <algorithm>
@@ -73,6 +74,7 @@ void ComboBox::UserEdits(const std::string &pText, int pSelStart) {
         return;
     }
     const bool wasRefusing = myIsRefusing;
+    const Headroom headroom;
     Text(WithoutNewLineBreaks(Text(), pText));
     myIsRefusing = wasRefusing && !MayLoseFocus();
     // A CR LF before the caret has become one character, so the caret counts from the end.

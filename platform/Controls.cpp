@@ -1,5 +1,6 @@
 #include "platform/Controls.h"
 
+#include "text/Memory.h"
 #include "text/Text.h"
 
 void Label::Caption(std::string pCaption) {
@@ -14,6 +15,7 @@ void Label::LooksLikeLink(Colour pColour) {
 }
 
 void TextBox::UserEdits(const std::string &pText) {
+    const Headroom headroom;
     Text(WithoutNewLineBreaks(Text(), pText));
 }
 

@@ -2,6 +2,7 @@
 /// The port from the runtime to a real desktop. It holds all that only a desktop can do.
 #include <optional>
 #include <string>
+#include <string_view>
 
 class Form;
 
@@ -21,10 +22,11 @@ enum class MessageButtons {
 
 enum class MessageAnswer { Ok = 1, Cancel = 2 };
 
+/// Its texts lie with whoever asks for it, so that a message about a lack of memory needs none.
 struct Message {
-    std::string prompt;
+    std::string_view prompt;
     MessageButtons buttons;
-    std::string title;
+    std::string_view title;
 };
 
 class Desktop {

@@ -3,6 +3,7 @@
 #include "platform/Controls.h"
 #include "platform/Desktop.h"
 #include "platform/Runtime.h"
+#include "text/Memory.h"
 
 namespace {
 
@@ -72,12 +73,16 @@ void Form::Unload() {
 }
 
 void Form::Show() {
-    Load();
-    if (!myIsShown) {
-        myIsShown = true;
-        Resize.Raise();
-    }
-    myRuntime.Desktop().ShowForm(*this);
+    const auto show = [this] {
+        Load();
+        if (!myIsShown) {
+            Resize.Raise();
+        }
+        myRuntime.Desktop().ShowForm(*this);
+    };
+    // A form that stayed loaded without a window would keep the program running.
+    RunOrUndo(show, [this, wasLoaded = myIsLoaded] { myIsLoaded = wasLoaded; });
+    myIsShown = true;
 }
 
 void Form::UserSizes(float pClientWidth, float pClientHeight, int pState) {

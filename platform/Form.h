@@ -70,6 +70,7 @@ public:
     /// Loads the form if it isn't loaded, and brings it on screen. The first time raises Resize.
     void Show();
     bool IsLoaded() const { return myIsLoaded; }
+    bool IsShown() const { return myIsShown; }
 
     /// The user or the window system has given the window this client area, in twips, and this state.
     void UserSizes(float pClientWidth, float pClientHeight, int pState);

@@ -1,8 +1,11 @@
 #include "platform/ListView.h"
 
+#include "text/Memory.h"
 #include "text/Text.h"
 
 #include <algorithm>
+#include <tuple>
+#include <utility>
 
 void ListItem::Texts(TextRow pTexts) {
     myTexts = std::move(pTexts);
@@ -98,11 +101,10 @@ int ListView::FindItem(std::string_view pStart, int pFrom) const {
 }
 
 void ListView::Pick(int pIndex) {
-    ListItem &item = ListItems(pIndex);
-    mySelected = pIndex;
-    myCurrent = pIndex;
+    const std::pair before(mySelected, myCurrent);
+    mySelected = myCurrent = pIndex;
     Touch();
-    ItemClick.Raise(item);
+    RunOrUndo([&] { ItemClick.Raise(ListItems(pIndex)); }, [&] { std::tie(mySelected, myCurrent) = before; });
 }
 
 void ListView::RowsChanged() {

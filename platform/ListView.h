@@ -53,7 +53,7 @@ public:
     /// Item pIndex, from 1 to Count().
     ListItem &operator()(int pIndex) const { return *myItems[static_cast<std::size_t>(pIndex - 1)]; }
 
-    /// Appends an item.
+    /// Appends an item, or throws and appends none.
     ListItem &Add(TextRow pTexts);
     /// Removes item pIndex. If it was selected, the item that takes its place is selected next, or the new
     /// last item if it was the last.
@@ -115,7 +115,7 @@ public:
     int FindItem(std::string_view pStart, int pFrom) const;
 
     /// The user picks item pIndex, from 1 to Count, by mouse or key. Also raises ItemClick if the item is
-    /// selected already.
+    /// selected already. Picks nothing if the handler runs out of memory.
     void Pick(int pIndex);
 
     /// RowsRevision goes up when rows or cells change, ColumnsRevision when columns do. A change of the

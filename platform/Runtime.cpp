@@ -1,5 +1,8 @@
 #include "platform/Runtime.h"
 
+#include "platform/Control.h"
+#include "text/Memory.h"
+
 #include <algorithm>
 #include <cstdlib>
 
@@ -16,12 +19,12 @@ std::string CommandText(const std::vector<std::string> &pWords) {
 Runtime::Runtime(::Desktop &pDesktop, AppRecord pApp, std::string pCommand)
     : myDesktop(pDesktop), myApp(std::move(pApp)), myCommand(std::move(pCommand)) {}
 
-MessageAnswer Runtime::MsgBox(const std::string &pPrompt, MessageButtons pButtons,
-                              const std::optional<std::string> &pTitle) const {
+MessageAnswer Runtime::MsgBox(std::string_view pPrompt, MessageButtons pButtons,
+                              std::optional<std::string_view> pTitle) const {
     return myDesktop.ShowMessage({pPrompt, pButtons, pTitle.value_or(myApp.ProductName)});
 }
 
-void Runtime::Stop(const std::string &pPrompt) const {
+void Runtime::Stop(std::string_view pPrompt) const {
     MsgBox(pPrompt);
     End(1);
 }
@@ -29,6 +32,25 @@ void Runtime::Stop(const std::string &pPrompt) const {
 void Runtime::End(int pStatus) const {
     myDesktop.EndProcess(pStatus);
     std::abort(); // Not reached. The compiler ignores that a virtual function never returns.
+}
+
+void Runtime::Act(const std::function<void()> &pAct) const {
+    if (!HasMemoryFor(pAct)) {
+        RecoverFromLackOfMemory();
+    }
+}
+
+void Runtime::RecoverFromLackOfMemory() const {
+    const auto isShown = [](const std::unique_ptr<Form> &pForm) { return pForm->IsShown(); };
+    if (std::none_of(myForms.begin(), myForms.end(), isShown)) {
+        Stop("There is not enough memory to start the program.");
+    }
+    for (const std::unique_ptr<Form> &form : myForms) {
+        for (const auto &control : form->Controls()) {
+            control->Touch(); // The desktop may show what the user has typed in vain.
+        }
+    }
+    MsgBox("There is not enough memory for this. Nothing has changed.");
 }
 
 Form &Runtime::NewForm() {

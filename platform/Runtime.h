@@ -3,9 +3,11 @@
 #include "platform/Desktop.h"
 #include "platform/Form.h"
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 /// The program's file and its version record.
@@ -35,14 +37,19 @@ public:
     ::Desktop &Desktop() const { return myDesktop; }
 
     /// Shows pPrompt and waits for the user. Without a title it shows the application's.
-    MessageAnswer MsgBox(const std::string &pPrompt, MessageButtons pButtons = MessageButtons::Ok,
-                         const std::optional<std::string> &pTitle = {}) const;
+    MessageAnswer MsgBox(std::string_view pPrompt, MessageButtons pButtons = MessageButtons::Ok,
+                         std::optional<std::string_view> pTitle = {}) const;
 
     /// Shows pPrompt under the application's title, then ends the program with exit status 1.
-    [[noreturn]] void Stop(const std::string &pPrompt) const;
+    [[noreturn]] void Stop(std::string_view pPrompt) const;
 
     /// Ends the program at once. No further statement runs, and no unload event comes.
     [[noreturn]] void End(int pStatus = 0) const;
+
+    /// Runs pAct, the start or an act of the user. If memory runs out in it, tells the user, and ends the
+    /// program if it shows no form yet. Otherwise the program goes on as it was before the act: a handler
+    /// gets all memory that it needs before it changes anything.
+    void Act(const std::function<void()> &pAct) const;
 
     /// Makes a form, not yet loaded. The runtime owns it to the end.
     Form &NewForm();
@@ -52,6 +59,8 @@ public:
     void EndIfNoFormIsLoaded() const;
 
 private:
+    void RecoverFromLackOfMemory() const;
+
     ::Desktop &myDesktop;
     AppRecord myApp;
     std::string myCommand;

@@ -1,6 +1,7 @@
 #pragma once
 /// Running out of memory. This is the only place that catches it; whoever calls decides what is undone and
 /// told.
+#include <memory>
 #include <new>
 #include <utility>
 
@@ -22,3 +23,17 @@ template <typename Act, typename Undo> void RunOrUndo(Act &&pAct, Undo &&pUndo) 
         throw std::bad_alloc();
     }
 }
+
+/// Memory kept back while the data grow, so that the desktop has it afterwards to show them: a toolkit that
+/// gets none ends the program. Nothing is written to it, so it costs no time.
+class Headroom {
+public:
+    /// Throws std::bad_alloc when there is not so much left.
+    Headroom();
+    ~Headroom();
+    Headroom(const Headroom &) = delete;
+    Headroom &operator=(const Headroom &) = delete;
+
+private:
+    std::unique_ptr<char[]> myRoom;
+};

@@ -43,6 +43,7 @@ void clsCombo::LoadFromTxtFile(const std::string &pFn) {
         return;
     }
     const bool isDone = HasMemoryFor([&] {
+        const Headroom headroom;
         std::vector<std::string> entries; // First all of them, since half a list would refuse good texts.
         TextInput file(pFn);
         while (!file.AtEnd()) {

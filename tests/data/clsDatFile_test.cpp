@@ -127,8 +127,4 @@ TEST_F(DatFile, ForgetsAFaultWithTheNextFile) {
         EXPECT_NE(myTable.Fault(), "");
         EXPECT_EQ(Read(dat, "1,2\r\na,b\r\n"), "1x2: a|b");
     }
-    myTable.FileName(myFiles.Path());
-    myTable.Save();
-    EXPECT_NE(myTable.Fault(), "");
-    EXPECT_EQ(Save(dat), "1,2\r\n\"a\",\"b\"\r\n");
 }

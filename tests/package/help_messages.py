@@ -18,7 +18,7 @@ NO_MESSAGES = {
 }
 
 
-ROOMS = ("app", "data", "editor", "text")
+ROOMS = ("app", "data", "editor", "platform", "text", "ui")
 
 
 def plain(text):

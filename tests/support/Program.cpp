@@ -53,12 +53,14 @@ Program::Program(std::string pExeName) : myExeName(std::move(pExeName)) {
 }
 
 Program &Program::Act(const std::function<void()> &pAct) {
+    Scarcity::isCounting = true;
     try {
-        pAct();
+        myRuntime->Act(pAct);
         myRuntime->EndIfNoFormIsLoaded();
     } catch (const ProgramEnded &end) {
         myExitStatus = end.status;
     }
+    Scarcity::isCounting = false;
     return *this;
 }
 
@@ -66,8 +68,8 @@ Program &Program::Start(const std::string &pCommand) {
     myModule.reset(); // Before the controls that it serves.
     myFocus = nullptr;
     myRuntime = std::make_unique<Runtime>(myScript, MakeAppRecord(myFiles.File(myExeName)), pCommand);
-    myModule = std::make_unique<modMain>(*myRuntime);
     return Act([&] {
+        myModule = std::make_unique<modMain>(*myRuntime);
         myModule->Main();
         myForm = myScript.Shown().back();
     });

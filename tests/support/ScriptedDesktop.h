@@ -3,6 +3,7 @@
 /// user answers them. A message or dialog that wasn't expected, that comes in another order or with another
 /// text, fails the test. So does one that never comes.
 #include "platform/Desktop.h"
+#include "tests/support/Scarcity.h"
 
 #include <gtest/gtest.h>
 
@@ -31,6 +32,10 @@ public:
     void ExpectOpen(const std::optional<std::string> &pPath) { myScript.push_back({toOpen, pPath}); }
     void ExpectSave(const std::optional<std::string> &pPath) { myScript.push_back({toSave, pPath}); }
 
+    /// From now on any message may come, and is answered by OK. Told has their texts, each with "|" after it.
+    void TakeAnyMessage() { myTakesAny = true; }
+    const std::string &Told() const { return myTold; }
+
     /// All requests for file dialogs so far.
     const std::vector<FileDialogRequest> &Dialogs() const { return myDialogs; }
     /// The forms on screen, the one shown last at the end.
@@ -38,7 +43,15 @@ public:
     /// All documents and addresses opened so far.
     const std::vector<std::string> &Targets() const { return myTargets; }
 
-    MessageAnswer ShowMessage(const Message &pMessage) override { return Take(InWords(pMessage)).answer; }
+    MessageAnswer ShowMessage(const Message &pMessage) override {
+        Scarcity::granted = -1;
+        if (!myTakesAny) {
+            return Take(InWords(pMessage)).answer;
+        }
+        myTold.append(pMessage.prompt).append("|");
+        myScript.clear(); // A dialog may not come now.
+        return MessageAnswer::Ok;
+    }
     std::optional<std::string> ShowFileDialog(const Form & /*pForm*/,
                                               const FileDialogRequest &pRequest) override {
         myDialogs.push_back(pRequest);
@@ -63,8 +76,8 @@ private:
     };
 
     static std::string InWords(const Message &pMessage) {
-        return "message \"" + pMessage.prompt + "\", title \"" + pMessage.title + "\", buttons " +
-               std::to_string(static_cast<int>(pMessage.buttons));
+        return "message \"" + std::string(pMessage.prompt) + "\", title \"" + std::string(pMessage.title) +
+               "\", buttons " + std::to_string(static_cast<int>(pMessage.buttons));
     }
 
     Step Take(const std::string &pWhat) {
@@ -78,6 +91,8 @@ private:
     }
 
     std::deque<Step> myScript;
+    bool myTakesAny = false;
+    std::string myTold;
     std::vector<FileDialogRequest> myDialogs;
     std::vector<Form *> myShown;
     std::vector<std::string> myTargets;

@@ -9,6 +9,24 @@
 #include <string>
 #include <string_view>
 
+#ifdef __linux__
+#include <csignal>
+#include <sys/resource.h>
+#endif
+
+#ifdef __linux__
+/// Runs pAct while no file can grow beyond pBytes.
+template <typename Act> void WithFileLimit(std::size_t pBytes, Act pAct) {
+    std::signal(SIGXFSZ, SIG_IGN); // The program itself ignores it too.
+    rlimit before{};
+    getrlimit(RLIMIT_FSIZE, &before);
+    const rlimit lowered{pBytes, before.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &lowered);
+    pAct();
+    setrlimit(RLIMIT_FSIZE, &before);
+}
+#endif
+
 class TemporaryFolder {
 public:
     TemporaryFolder() {

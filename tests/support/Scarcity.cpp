@@ -1,0 +1,21 @@
+#include "tests/support/Scarcity.h"
+
+#include <cstdlib>
+#include <new>
+
+void *operator new(std::size_t pSize) {
+    if (Scarcity::isCounting && Scarcity::granted == 0) {
+        Scarcity::hasCome = true;
+        Scarcity::granted = Scarcity::lasts ? 0 : -1;
+        throw std::bad_alloc();
+    }
+    Scarcity::granted -= Scarcity::isCounting && Scarcity::granted > 0 ? 1 : 0;
+    void *const block = std::malloc(pSize + 1);
+    return block == nullptr ? throw std::bad_alloc() : block;
+}
+void operator delete(void *pBlock) noexcept {
+    std::free(pBlock);
+}
+void operator delete(void *pBlock, std::size_t /*pSize*/) noexcept {
+    std::free(pBlock);
+}
