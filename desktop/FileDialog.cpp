@@ -22,6 +22,18 @@ QString NameFilter(const FileDialogRequest &pRequest) {
     return description.endsWith(pattern) ? description : description + u' ' + pattern;
 }
 
+/// The name to offer in a dialog that shows pShown. Qt can't enter a folder whose name isn't UTF-8. Anywhere
+/// else the bare name would be another file, so the whole path stands in for it.
+std::string OfferedName(const FileDialogRequest &pRequest, const QDir &pShown) {
+    const QString folder = pRequest.folder.empty() ? QDir::currentPath() : ToQt(pRequest.folder);
+    const bool isEntered = QDir(folder).exists() && QDir(folder) == pShown;
+    if (isEntered || pRequest.name.empty() || QDir::isAbsolutePath(ToQt(pRequest.name))) {
+        return pRequest.name;
+    }
+    const bool needsSlash = !pRequest.folder.ends_with('/');
+    return pRequest.folder.empty() ? "" : pRequest.folder + (needsSlash ? "/" : "") + pRequest.name;
+}
+
 } // namespace
 
 FileDialog::FileDialog(QWidget *pParent, const FileDialogRequest &pRequest) : QFileDialog(pParent) {
@@ -49,7 +61,7 @@ FileDialog::FileDialog(QWidget *pParent, const FileDialogRequest &pRequest) : QF
     connect(myNameEdit, &QLineEdit::textChanged, this, [acceptButton](const QString &pName) {
         acceptButton->setEnabled(acceptButton->isEnabled() || pName.contains(u'"'));
     });
-    myNameEdit->setText(ToQt(pRequest.name));
+    myNameEdit->setText(ToQt(OfferedName(pRequest, directory())));
     myNameEdit->selectAll();
     myNameEdit->setFocus();
 }

@@ -31,7 +31,7 @@ FormWindow::FormWindow(Acts &pActs, Form &pForm)
 
     auto bar = std::make_unique<QMenuBar>(this);
     bar->setNativeMenuBar(false);
-    myMenu = std::make_unique<FormMenu>(pActs, pForm, *bar);
+    myMenu = std::make_unique<FormMenu>(*this, pForm, *bar);
     if (!myMenu->IsEmpty()) {
         myBar = bar.release();
     }
@@ -68,7 +68,7 @@ void FormWindow::SetFrame() {
 
 void FormWindow::AddViews() {
     for (const auto &control : myForm.Controls()) {
-        auto view = MakeView(myActs, *control, *myClient);
+        auto view = MakeView(*this, *control, *myClient);
         if (view != nullptr) {
             view->Sync();
             myViews.push_back(std::move(view));
@@ -119,8 +119,21 @@ void FormWindow::Sync() {
 
 void FormWindow::Retire() {
     myIsReady = false;
+    myIsRetired = true;
     hide();
     deleteLater();
+}
+
+void FormWindow::Handle(const std::function<void()> &pAct) {
+    if (!myIsRetired) {
+        myActs.Handle(pAct);
+    }
+}
+
+void FormWindow::Note(const std::function<void()> &pAct) {
+    if (!myIsRetired) {
+        myActs.Note(pAct);
+    }
 }
 
 void FormWindow::ShowCaptionAndState() {

@@ -1,6 +1,7 @@
 #pragma once
 /// The window of one form: a menu bar, a view for each control, and the user's acts on the window itself. It
 /// shows the controls that the form has when the window is made.
+#include "desktop/Acts.h"
 #include "desktop/ControlView.h"
 #include "desktop/FocusGuard.h"
 #include "desktop/FormMenu.h"
@@ -12,7 +13,7 @@
 #include <memory>
 #include <vector>
 
-class FormWindow : public QWidget {
+class FormWindow : public QWidget, public Acts {
 public:
     FormWindow(Acts &pActs, Form &pForm);
     ~FormWindow() override;
@@ -22,6 +23,10 @@ public:
 
     /// Takes the window off the screen and stops it from passing anything on. The form is gone.
     void Retire();
+
+    /// The acts of the views, passed on as long as the form is there.
+    void Handle(const std::function<void()> &pAct) override;
+    void Note(const std::function<void()> &pAct) override;
 
     /// Whether the control that has the focus lets the user move it to pTarget; null stands for the target
     /// of Tab. While the menu bar has the focus, the control that had it before is asked, and gets it back
@@ -67,6 +72,7 @@ private:
     ControlView *myFocused = nullptr; ///< the view that has the focus, or had it last
     FocusGuard myGuard;
     bool myIsReady = false;
+    bool myIsRetired = false;
     int myShownRevision = 0;
     QSize myCorrected; ///< the size from the window system that was corrected last
     bool myHasAskedAgain = false;

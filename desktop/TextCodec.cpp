@@ -57,6 +57,9 @@ QString ToQtLine(std::string_view pText, int pMostUnits) {
 }
 
 QString ToQtTitle(std::string_view pText) {
+    if (pText.empty()) {
+        return QStringLiteral(" "); // For an empty title Qt shows the name of the program's file.
+    }
     // Written twice, the mark stands for itself.
     return ToQt(pText).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"));
 }
