@@ -72,6 +72,7 @@ void frmMain::ListView1_ItemClick() {
     const Headroom headroom;
     const TextRow record = myRpt->Row(myRpt->SelectedRow());
     std::vector<std::string> texts; // All of them first: the fields take the whole record or none of it.
+    texts.reserve(static_cast<std::size_t>(mySpec->Rows()));
     for (int i = 0; i < mySpec->Rows(); ++i) {
         texts.emplace_back(record(i + 1));
     }
