@@ -2,11 +2,16 @@
 
 #include <algorithm>
 #include <cstring>
+#include <limits>
+#include <new>
 
 TextRow::TextRow(std::string_view pRun, std::span<const Place> pEnds)
     : myCount(static_cast<int>(pEnds.size())) {
     if (pEnds.empty()) {
         return;
+    }
+    if (pRun.size() > std::numeric_limits<Place>::max()) {
+        throw std::bad_alloc();
     }
     const std::size_t places = (pRun.size() + sizeof(Place) - 1) / sizeof(Place);
     auto block = std::make_shared_for_overwrite<Place[]>(pEnds.size() + places);

@@ -6,9 +6,7 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <limits>
 #include <memory>
-#include <new>
 #include <span>
 #include <string>
 #include <string_view>
@@ -21,8 +19,8 @@ public:
 
     /// A row without texts.
     TextRow() = default;
-    /// A row of the texts that stand one after another in pRun (below 4 GB). pEnds says where each of them
-    /// ends; its places rise to the length of pRun.
+    /// A row of the texts that stand one after another in pRun. pEnds says where each of them ends; its
+    /// places rise to the length of pRun. A run of 4 GB or more counts as a lack of memory.
     TextRow(std::string_view pRun, std::span<const Place> pEnds);
     explicit TextRow(std::span<const std::string> pTexts);
 
@@ -57,7 +55,7 @@ struct TextRowRoom {
 class TextRowBuilder {
 public:
     /// Makes room for pMostTexts texts of pMostBytes bytes in all. Texts that lie in pSource are copied
-    /// faster than others. 4 GB are too many for a row, and count as a lack of memory.
+    /// faster than others.
     TextRowBuilder(TextRowRoom &pRoom, std::size_t pMostTexts, std::size_t pMostBytes,
                    std::string_view pSource = {});
 
@@ -90,9 +88,6 @@ private:
 inline TextRowBuilder::TextRowBuilder(TextRowRoom &pRoom, std::size_t pMostTexts, std::size_t pMostBytes,
                                       std::string_view pSource)
     : mySource(pSource) {
-    if (pMostBytes > std::numeric_limits<TextRow::Place>::max()) {
-        throw std::bad_alloc();
-    }
     pRoom.run.resize(std::max(pRoom.run.size(), pMostBytes + copySlack));
     pRoom.ends.resize(std::max(pRoom.ends.size(), pMostTexts));
     myRun = myText = myTextEnd = pRoom.run.data();
