@@ -1,6 +1,6 @@
 #pragma once
-/// The version record of the program. The version stands here and nowhere else: CMakeLists.txt reads the
-/// three numbers, and packages, metainfo and archives get theirs from there.
+/// The program's version record. The version is defined only here: CMakeLists.txt reads the three numbers
+/// and passes them on to packages, metainfo and archives.
 #include "platform/Runtime.h"
 
 #include <string>

@@ -36,7 +36,7 @@ std::vector<std::string> modMain::ReadWords() {
         if (lower == "-t" || lower == "/t") {
             gTitle = ++i < words.size() ? words[i] : "";
         } else if (lower == "-v" || lower == "/v") {
-            ++i; // Its word has no effect.
+            ++i; // This switch takes a word, which has no effect.
         } else if (lower == "-csv" || lower == "/csv") {
             fmtArg = FormatWhole(clsDatFile::fmtCsv);
         } else if (lower == "-csvh" || lower == "/csvh") {
@@ -73,8 +73,8 @@ void modMain::StartWindow() {
     myMain = std::make_unique<frmMain>(myRuntime, gSpecFile, *myAbout);
     Form &window = myMain->Window();
     window.Load();
-    // The title comes after the load: messages about a bad specification bear the design caption. The format
-    // comes before the open, which reads by it.
+    // The title is set after the load, so that messages about a bad specification show the design caption.
+    // The format is set before the open, which reads the file in that format.
     window.Caption(gTitle);
     myMain->mnuFileOpen.Enabled(gCanOpen);
     myMain->AppCmd("fmt", {fmtArg});

@@ -27,15 +27,15 @@ public:
         false; ///< the command line names no file: File Open is enabled, and nothing is opened at start
 
 private:
-    /// Takes the switches, and returns the other words of the command line, in their order. Stops after the
-    /// first word too many.
+    /// Reads the switches, and returns the other words of the command line in their order. Stops as soon as
+    /// there is one word too many.
     std::vector<std::string> ReadWords();
     void SettleFiles(const std::vector<std::string> &args);
     void StartWindow();
     [[noreturn]] void Usage() const;
 
     Runtime &myRuntime;
-    std::string fmtArg = "0"; ///< the form of the data file, as text: see clsDatFile::Fmt
+    std::string fmtArg = "0"; ///< the format of the data file, as text: see clsDatFile::Fmt
     std::unique_ptr<frmAbout> myAbout;
     std::unique_ptr<frmMain> myMain;
 };

@@ -9,9 +9,9 @@ class clsDatFile;
 /// One row of a specification: a column of the data, with its list column and its field.
 struct SpecColumn {
     std::string heading;
-    std::int16_t listPercent = 0; ///< width of the list column, in percent of the list's
-    double percent = 0;           ///< width of the field, in percent of the list's
-    std::int16_t place = 0;       ///< sum of the fields' percents up to this one, each sum rounded
+    std::int16_t listPercent = 0; ///< width of the list column, in percent of the list's width
+    double percent = 0;           ///< width of the field, in percent of the list's width
+    std::int16_t place = 0;       ///< sum of the percents of the fields before this one, rounded at each step
     bool isTextBox = true;        ///< otherwise the field is a combo box
     std::string listFile;         ///< of a combo box, as the specification names it
     std::int16_t mode = 0;        ///< of a combo box, as clsCombo takes it
@@ -29,7 +29,7 @@ public:
     explicit SpecColumns(const clsDatFile &pSpec);
 
     /// The first fault of the specification, in a sentence for the user. Empty when there is none; only then
-    /// are all columns there.
+    /// is All() complete.
     const std::string &Fault() const { return myFault; }
 
     const std::vector<SpecColumn> &All() const { return myColumns; }

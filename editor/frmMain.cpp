@@ -35,7 +35,7 @@ void frmMain::AppCmd(const std::string &pCmd, const std::vector<std::string> &pA
     } else if (command == "save") {
         AppSave(pArg.at(0));
     } else if (command == "fmt") {
-        // -1 stands for a number beyond 16 bits. It is no form either, so Load and Save do nothing.
+        // A number beyond 16 bits becomes -1, which is no format, so Load and Save do nothing.
         myDat->Fmt(Integer16(Val(pArg.at(0))).value_or(-1));
     } else {
         TraceUnknown(pCmd);
@@ -54,7 +54,7 @@ void frmMain::AppResize() {
 void frmMain::Form_Load() {
     AppCmd("Load");
     myForm.WindowState(Form::stateNormal);
-    // The layout takes the controls that are there now, so it comes after the load, which makes the fields.
+    // The layout registers the controls that exist now, so it comes after the load, which adds the fields.
     myLayout = std::make_unique<clsLayout>();
     myLayout->SetLayout(myForm);
 }

@@ -23,13 +23,14 @@ struct SpecColumn;
 
 class frmMain {
 public:
-    /// The control of field i is named "cbo" and this number plus i, its label "lbl" and the same number.
+    /// The control of field i is named "cbo" followed by the sum of this number and i. The name of its label
+    /// is "lbl" followed by the same sum.
     static constexpr int firstFieldNumber = 20;
 
     frmMain(Runtime &pRuntime, std::string pSpecFile, frmAbout &pAbout);
 
-    /// Runs an application command, in any mix of case: "load", "unload", "resize", "quit", "open" and "save"
-    /// (pArg: a file name), "fmt" (pArg: the number of a file form, as text). An unknown command has no
+    /// Runs an application command, case ignored: "load", "unload", "resize", "quit", "open" and "save"
+    /// (pArg: a file name), "fmt" (pArg: the number of a file format, as text). An unknown command has no
     /// effect. Throws std::out_of_range when a command lacks its argument.
     void AppCmd(const std::string &pCmd, const std::vector<std::string> &pArg = {});
     /// Releases the specification and the list report. Only AppCmd calls it.
@@ -44,7 +45,7 @@ private:
     Form &myForm;
 
 public:
-    // The controls of the design, in the order of the form.
+    // The controls of the design, in the order in which they are added to the form.
     CommonDialog &cDlg;
     CommandButton &cmdAdd;
     CommandButton &cmdMoveUp;

@@ -1,5 +1,5 @@
-// Button states: they follow from the number of rows and the selected row, and the list is asked for both
-// anew each time.
+// Button states. They depend on the number of rows and on the selected row, which are read from the list
+// each time.
 #include "editor/frmMain.h"
 
 void frmMain::UpdateButtons() {

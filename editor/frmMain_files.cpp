@@ -1,4 +1,4 @@
-// Files and leaving. Records go from a data file into the list and back, and the data table is only the way
+// Files and leaving. Records go from a data file into the list and back; the data table only carries them
 // between the two.
 #include "editor/frmMain.h"
 #include "platform/Runtime.h"
