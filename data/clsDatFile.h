@@ -1,7 +1,7 @@
 #pragma once
-/// A table of strings in memory with its file name and format, and the only way in which a table file is read
-/// or written. It keeps a fault of the file for the caller, who reports it to the user. Only a caller's own
-/// mistake, or a CSV file without a usable first row, makes it show a message itself and end the program.
+/// A table of strings in memory with its file name and format. Table files are read and written only here. A
+/// fault of the file is kept for the caller, who reports it to the user. Only a mistake of the caller, or a
+/// CSV file without a usable first row, makes the table itself show a message and end the program.
 #include "text/TextRow.h"
 
 #include <cstdint>
@@ -20,7 +20,7 @@ class clsDatFile {
 public:
     static constexpr int mostRows = 32767;
 
-    // The forms of a table file.
+    // The formats of a table file.
     static constexpr std::int16_t fmtDat = 0;            ///< a line of counts, then rows
     static constexpr std::int16_t fmtCsv = 1;            ///< rows alone
     static constexpr std::int16_t fmtCsvWithHeaders = 2; ///< a header line, then rows
@@ -35,28 +35,28 @@ public:
     /// Whether the file name is set and Dir finds that file.
     bool Exists() const;
 
-    /// One of the forms above. With any other value Load and Save do nothing.
+    /// One of the formats above. With any other value Load and Save do nothing.
     void Fmt(std::int16_t pFmt) { myFmt = pFmt; }
-    /// "csv" for the two CSV forms, else "dat".
+    /// "csv" for the two CSV formats, else "dat".
     std::string FileType() const;
 
-    /// The titles for the header line. There may be more or fewer than columns.
+    /// The titles for the header line. There may be more or fewer of them than columns.
     void Headers(std::vector<std::string> pHeaders) { myHeaders = std::move(pHeaders); }
 
-    /// The size. Only Clear and Load make storage of that size. A value below 1 shows a message and ends the
-    /// program.
+    /// The size of the table. Setting it makes no storage: only Clear and Load do. Setting a value below 1
+    /// shows a message and ends the program.
     void Rows(std::int16_t n);
     std::int16_t Rows() const { return myRows; }
     void Cols(std::int16_t n);
     std::int16_t Cols() const { return myCols; }
 
-    /// A cell, by row and column from 0. A cell outside the table or without storage reads empty and ignores
-    /// writes.
+    /// A cell, by row and column from 0. A cell outside the table or without storage reads as empty and
+    /// ignores writes.
     void Data(std::int16_t pRow, std::int16_t pCol, const std::string &pValue);
     std::string Data(std::int16_t pRow, std::int16_t pCol) const;
 
     /// All cells of a row (from 0) at once, column c as text c + 1. Empty cells at the end may be missing. A
-    /// row outside the table or without storage reads empty and ignores writes.
+    /// row outside the table or without storage reads as empty and ignores writes.
     void Row(std::int16_t pRow, TextRow pCells);
     TextRow Row(std::int16_t pRow) const;
 
@@ -69,8 +69,8 @@ public:
     /// Makes fresh storage for Rows() by Cols() empty cells.
     void Clear();
 
-    /// Replaces size and cells from the file, which has to exist. Ends the program, after a message, when no
-    /// file name is set or when the first row of a CSV file has no words.
+    /// Replaces the size and the cells by those of the file, which must exist. Ends the program, after a
+    /// message, when no file name is set or when the first row of a CSV file has no words.
     void Load();
 
     /// Calls pWatch for each line that Load takes for a row: with the line, and its words. If Load stops at a
@@ -84,8 +84,9 @@ public:
     /// What went wrong with the file at the last Load or Save, in a sentence for the user that names the
     /// file. Empty when nothing did.
     const std::string &Fault() const { return myFault; }
-    /// Whether the last Load could read the file. If not, the table is empty. A fault of a file that was read
-    /// concerns its size: it holds fewer records than its first line announces, or announces none that fit.
+    /// Whether the last Load could read the file. If not, the table is empty. If so, any fault concerns the
+    /// number of records: the file holds fewer than its first line announces, or that line announces no
+    /// number that can be used.
     bool WasRead() const { return myWasRead; }
     /// Whether it took all lines of the file for rows, and left none after them.
     bool ReachedEnd() const { return myReachedEnd; }
@@ -124,7 +125,7 @@ private:
     std::int16_t myCols = 0;
     std::vector<std::string> myHeaders;
     /// The storage, one entry for each row. An entry holds only the cells that were written, so a large
-    /// announced size costs nothing. myStoredCols is the width.
+    /// announced size costs nothing. myStoredCols is the width of the storage.
     std::vector<TextRow> myData;
     std::int16_t myStoredCols = 0;
     LineWatch myWatch;

@@ -1,6 +1,6 @@
-// The two readers. The .dat reader takes the size from the first line, the CSV reader counts. At a ragged
-// line both stop: the .dat reader keeps the announced number of rows, with the remaining ones empty, and the
-// CSV reader keeps the rows before that line.
+// The two readers. The .dat reader takes the size from the first line; the CSV reader counts. Both stop at a
+// ragged line, one with the wrong number of words. The .dat reader then keeps the announced number of rows,
+// the remaining ones empty; the CSV reader keeps the rows before that line.
 #include "data/clsDatFile.h"
 
 #include "data/modGetWords.h"
@@ -13,10 +13,10 @@
 
 namespace {
 
-/// A message names no larger number of rows: it may have hundreds of digits, or be an infinity.
+/// Messages don't spell out a number of rows from here up: it may have hundreds of digits, or be infinite.
 constexpr double mostShownRows = 1e9;
 
-/// One of the two numbers of the first line. Text that is no number counts as 0.
+/// One of the two numbers of the first line. Text that is not a number counts as 0.
 double SizeItem(std::string_view pItem) {
     return WholeNumber(pItem).value_or(0);
 }

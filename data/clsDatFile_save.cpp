@@ -1,4 +1,4 @@
-// The two writers. They share the form of a row, and differ only in the line before row 0.
+// The two writers. They write rows alike, and differ only in the line before the first row.
 #include "data/clsDatFile.h"
 
 #include "text/Files.h"
@@ -12,8 +12,8 @@ namespace {
 
 constexpr std::string_view emptyField = R"("",)";
 
-/// Writes pField, a part of pRow, to pTo in the form that fields have on disk, and returns the end of it. pTo
-/// needs room for copySlack bytes more than that.
+/// Writes pField, a part of pRow, to pTo as files hold it: in quotes, with its own quotes doubled. pHasQuotes
+/// tells whether it has any. Returns the end of what it wrote; pTo needs room for copySlack bytes more.
 char *Quote(std::string_view pField, bool pHasQuotes, const PartCopier &pRow, char *pTo) {
     *pTo++ = '"';
     if (!pHasQuotes) {
@@ -31,8 +31,8 @@ char *Quote(std::string_view pField, bool pHasQuotes, const PartCopier &pRow, ch
 
 } // namespace
 
-/// The most bytes that any line needs: each byte of a cell may be doubled, and two quotes and a comma come
-/// with it.
+/// The most bytes that any line needs: each byte of a cell may be doubled, and each cell adds two quotes and
+/// a comma.
 std::size_t clsDatFile::MostLineBytes(const TextRow &pTitles) const {
     std::size_t most = pTitles.Run().size();
     for (const TextRow &row : myData) {
@@ -47,7 +47,7 @@ void clsDatFile::PrintRow(TextOutput &pFile, const TextRow &pCells) const {
     const std::span<const TextRow::Place> ends = pCells.Ends().first(std::min(cols, pCells.Ends().size()));
     const std::string_view run = pCells.Run();
     const PartCopier row(run);
-    std::size_t quote = run.find('"'); // One search for the whole row: most cells have no quotes.
+    std::size_t quote = run.find('"'); // Searches across cells: most cells have no quotes.
     std::size_t from = 0;
     char *to = pFile.BeginLine();
     for (const TextRow::Place end : ends) {
@@ -86,7 +86,7 @@ void clsDatFile::SaveCsv(bool pHasHeaders) {
     if (myFn.empty()) {
         return;
     }
-    const TextRow titles(myHeaders); // PrintRow fills up missing titles and leaves out surplus ones.
+    const TextRow titles(myHeaders); // PrintRow writes missing titles as empty, and leaves out surplus ones.
     TextOutput file(myFn, MostLineBytes(titles));
     if (pHasHeaders) {
         PrintRow(file, titles);

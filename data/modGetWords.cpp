@@ -13,7 +13,8 @@ bool EndsWord(char pCharacter) {
     return pCharacter == ',' || pCharacter == '\n';
 }
 
-/// Takes the word whose first character is next. An LF there belongs to the word, a comma makes it empty.
+/// Takes the word that begins at the next character. If that is an LF, it belongs to the word; if it is a
+/// comma, the word is empty.
 void TakePlainWord(Cursor &pLine, TextRowBuilder &pWords) {
     const std::size_t from = pLine.Place();
     pLine.Take('\n');
@@ -37,7 +38,7 @@ bool TakeQuotedWord(Cursor &pLine, TextRowBuilder &pWords) {
             pWords.AddPart(part);
             return true;
         }
-        // The quote and the next one stand for one, and the blanks between them belong to the word.
+        // Two quotes stand for one, even with blanks between them. Those blanks belong to the word.
         pWords.AddPart(pLine.PassedSince(from));
         if (!pLine.Take('"')) {
             return false;

@@ -1,6 +1,6 @@
 #pragma once
-/// The words of one line of a table file: fields separated by commas, any of them in double quotes. Both
-/// table readers use it; it knows nothing of files or tables.
+/// The words of one line of a table file: fields separated by commas, each with or without double quotes.
+/// Both table readers use this module, which knows nothing of files or tables.
 #include "text/TextRow.h"
 
 #include <string_view>
@@ -10,9 +10,9 @@ namespace modGetWords {
 /// No table has more columns than this.
 inline constexpr int mostWords = 32767;
 
-/// The words of pLine, which is given without its line end; word j is text j of the row, from 1. A line that
-/// makes no sense has no words. Of a line of more than mostWords words it keeps one more than that, which
-/// fits no table. pRoom can serve line after line.
+/// The words of pLine, a line without its line end. Word j is text j of the row, from 1. A malformed line has
+/// no words. Of a line with more than mostWords words the first mostWords + 1 are kept, too many for any
+/// table. pRoom can be used again for the next line.
 TextRow GetWords(std::string_view pLine, TextRowRoom &pRoom);
 inline TextRow GetWords(std::string_view pLine) {
     TextRowRoom room;

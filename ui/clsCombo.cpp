@@ -11,8 +11,8 @@
 
 namespace {
 
-/// Whether the release of the key completes: the space bar, digits, letters, the numeric keypad and
-/// punctuation do; keys that erase, move the caret or act otherwise do not.
+/// Whether releasing the key completes the text. True for the space bar, digits, letters, the numeric keypad
+/// and punctuation; false for keys that erase, move the caret or do anything else.
 bool TypesText(int pKeyCode) {
     return pKeyCode == keyCode::space || (pKeyCode >= keyCode::digit0 && pKeyCode <= keyCode::keypadDivide) ||
            pKeyCode >= keyCode::firstAboveAscii;
@@ -60,8 +60,8 @@ void clsCombo::LoadFromTxtFile(const std::string &pFn) {
 }
 
 void clsCombo::myCB_KeyUp(int KeyCode, int /*Shift*/) {
-    // When two keys are typed fast, both characters are there at the first release. To complete again at the
-    // second would take the completed part for typed text.
+    // In fast typing both characters are there when the first key is released. Completing again when the
+    // second is released would take the completed part for typed text.
     if (myMode == 2 && TypesText(KeyCode) && myCB->TakeTyped()) {
         AutoComplete(*myCB);
     }

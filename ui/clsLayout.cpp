@@ -95,7 +95,7 @@ void clsLayout::EnforceMinimum() {
 }
 
 void clsLayout::RedrawLayout() {
-    // To write the form's size raises Resize, and its handler calls this function in the middle of the pass.
+    // Setting the form's size raises Resize, whose handler calls this function in the middle of the pass.
     if (inRedraw || myFrm == nullptr) {
         return;
     }

@@ -1,8 +1,8 @@
 #pragma once
-/// Places the controls of one form anew when the form changes size, each by the option string in its Tag.
-/// That string holds the keys "X=", "Y=", "W=" and "H=", separated by blanks, each with the share of the
-/// form's growth by which the control moves or stretches: a whole number or a fraction of two. Knows nothing
-/// of the application.
+/// Moves and stretches the controls of one form when the form changes size, each by the option string in its
+/// Tag. The string holds any of the keys "X=", "Y=", "W=" and "H=", separated by blanks. Each key gives the
+/// share of the form's growth by which the control moves or stretches: a whole number, or a fraction such as
+/// "25/100". Knows nothing of the application.
 #include "ui/clsControl.h"
 
 #include <cstdint>
@@ -16,7 +16,7 @@ class Form;
 
 class clsLayout {
 public:
-    /// Least outer width of the form in twips, and the width that growth starts from. Rounded to a whole
+    /// The least outer width of the form in twips, from which growth is counted. Rounded to the nearest whole
     /// number, an exact half to the even one.
     void MinWidth(float Twips);
     float MinWidth() const { return static_cast<float>(myMinWidth); }
@@ -28,8 +28,9 @@ public:
     /// those of the class "Toolbar". Places nothing.
     void SetLayout(Form &frm);
 
-    /// Gives the form its least size back if it is smaller and in its normal state, and places all registered
-    /// controls from their records. Does nothing before SetLayout or while another pass is running.
+    /// If the form is in its normal state and smaller than its least size, enlarges it to that. Then places
+    /// all registered controls from their records. Does nothing before SetLayout or while another pass is
+    /// running.
     void RedrawLayout();
 
     /// Registers one control with the option string pOpts. Quietly leaves out a control without a place, and

@@ -1,7 +1,7 @@
 #pragma once
 /// A list control in report view as a grid of text. Rows and columns count from 0, at most one row is
 /// selected, and column widths are shares of the control's width. The control holds the rows. A cell that
-/// isn't there reads empty and ignores writes.
+/// isn't there reads as empty and ignores writes.
 #include "text/TextRow.h"
 
 #include <cstdint>
@@ -13,12 +13,12 @@ class ListView;
 
 class clsListViewRpt {
 public:
-    /// The control that the others operate on. To set it puts it in report view.
+    /// The control that all other members operate on. Setting it puts it in report view.
     void LV(ListView &pLV);
     ListView &LV() const { return *myLV; }
 
-    /// Appends a column for each title, and gives all columns the same share of the width, 100 percent /
-    /// titles.
+    /// Appends a column for each title, and gives all columns the same share of the width: 100 percent
+    /// divided by the number of titles.
     void Headers(const std::vector<std::string> &pHeaders);
     std::vector<std::string> Headers() const;
 
@@ -38,7 +38,7 @@ public:
     std::string Data(std::int16_t pRow, std::int16_t pCol) const;
     void Data(std::int16_t pRow, std::int16_t pCol, const std::string &pText);
 
-    /// Moves the selected row one place, and keeps it selected. No effect at the end of the list.
+    /// Moves the selected row one place, and keeps it selected. No effect if that would leave the list.
     void MoveUp();
     void MoveDown();
 
