@@ -69,7 +69,7 @@ public:
     /// Makes fresh storage for Rows() by Cols() empty cells.
     void Clear();
 
-    /// Replaces the size and the cells by those of the file, which must exist. Ends the program, after a
+    /// Replaces the size and the cells with those of the file, which must exist. Ends the program, after a
     /// message, when no file name is set or when the first row of a CSV file has no words.
     void Load();
 

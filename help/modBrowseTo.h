@@ -6,12 +6,12 @@ class Runtime;
 
 namespace modBrowseTo {
 
-/// Opens pTarget, the path of a file or a web address, with the program that the system has for it. Reports
-/// nothing.
+/// Opens pTarget, the path of a file or a web address, with the program that the system has for it. Doesn't
+/// report failure.
 void BrowseTo(const Runtime &pRuntime, const std::string &pTarget);
 
-/// Opens the help page from the folder "Help" beside the program. Its name is that of the program's file,
-/// else that of the product, else "index".
+/// Opens the help page from the folder "Help" beside the program. The page bears the name of the program's
+/// file, else that of the product, else "index".
 void BrowseToHelp(const Runtime &pRuntime);
 
 } // namespace modBrowseTo

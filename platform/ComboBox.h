@@ -1,6 +1,6 @@
 #pragma once
-/// A combo box: a field over a list of entries. A client completes and refuses texts by the events KeyUp and
-/// Validate; the box itself accepts any text.
+/// A combo box: a field over a list of entries. The box itself accepts any text; a client uses the events
+/// KeyUp and Validate to complete and refuse texts.
 #include "platform/Control.h"
 #include "platform/Event.h"
 
@@ -31,14 +31,15 @@ public:
     void AddItems(std::vector<std::string> pEntries);
     void Clear();
 
-    /// The number of the current entry, -1 for none. To set an entry puts it into Text; -1 leaves Text alone.
+    /// The number of the current entry, -1 for none. Setting it copies the entry to Text; setting -1 leaves
+    /// Text alone.
     int ListIndex() const { return myListIndex; }
     void ListIndex(int pIndex);
 
     /// The number of the first entry that begins with pStart, case ignored; -1 if there is none.
     int FindString(const std::string &pStart) const;
 
-    /// Caret and selection, in UTF-16 units of Text. To set the start puts the caret there and selects
+    /// Caret and selection, in UTF-16 units of Text. Setting the start puts the caret there and selects
     /// nothing.
     int SelStart() const { return mySelStart; }
     void SelStart(int pStart);
@@ -59,8 +60,8 @@ public:
 
     /// Asks the client whether the focus may leave the box.
     bool MayLoseFocus();
-    /// Whether the client has refused that. A box that does so shows it until its text is acceptable or set
-    /// anew.
+    /// Whether the client has refused. The box shows this until its text is acceptable or the program sets
+    /// another.
     bool IsRefusing() const { return myIsRefusing; }
 
     Event<int, int> KeyUp;  ///< key code, shift

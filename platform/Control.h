@@ -1,6 +1,6 @@
 #pragma once
-/// The common part of all controls of a form: name, tag, place, and a count of changes. By that count a
-/// desktop sees whether it has to show a control anew.
+/// The common part of all controls of a form: name, tag, place, and a count of changes. The count tells a
+/// desktop whether it has to show a control again.
 #include <string>
 
 class Form;
@@ -24,7 +24,7 @@ public:
     const std::string &Tag() const { return myTag; }
     void Tag(std::string pTag) { myTag = std::move(pTag); }
 
-    /// Goes up with each visible change. A desktop remembers the number that it showed last.
+    /// Goes up with each visible change. A desktop remembers the revision that it showed last.
     int Revision() const { return myRevision; }
     /// Makes the number go up without a change, so that a desktop shows the control anew.
     void Touch() { ++myRevision; }
@@ -65,7 +65,7 @@ public:
     const std::string &ToolTipText() const { return myToolTipText; }
     void ToolTipText(std::string pText) { myToolTipText = std::move(pText); }
 
-    /// The name that assistive technology reads out for the control. If empty, the caption serves.
+    /// The name that assistive technology reads out for the control. If it is empty, the caption is used.
     const std::string &AccessibleName() const { return myAccessibleName; }
     void AccessibleName(std::string pName) { myAccessibleName = std::move(pName); }
     const std::string &AccessibleDescription() const { return myAccessibleDescription; }
@@ -89,7 +89,7 @@ class TextField : public SizedControl {
 public:
     using SizedControl::SizedControl;
 
-    /// The text in the field. To set it runs no check.
+    /// The text in the field. Setting it runs no check.
     const std::string &Text() const { return myText; }
     virtual void Text(std::string pText);
 

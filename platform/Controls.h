@@ -1,7 +1,7 @@
 #pragma once
 /// The simple controls: label, text box, button, menu item, and the parts of a dialog that take no input
-/// (picture, line). An act of the user is a verb of the control, such as Press; desktop and tests call the
-/// same verbs.
+/// (picture, line). Each act of the user has its function, such as Press, which the desktop and the tests
+/// call alike.
 #include "platform/Control.h"
 #include "platform/Event.h"
 
@@ -20,7 +20,7 @@ public:
     const std::string &Caption() const { return myCaption; }
     void Caption(std::string pCaption);
 
-    /// Makes the label a link: text in pColour, a pointing hand over it. Only a link takes clicks.
+    /// Makes the label a link: the text in pColour, the pointer a hand. Only a link takes clicks.
     void LooksLikeLink(Colour pColour);
     bool IsLink() const { return myIsLink; }
     Colour ForeColor() const { return myForeColor; }

@@ -33,24 +33,24 @@ class Desktop {
 public:
     virtual ~Desktop() = default;
 
-    /// Shows pMessage and waits for the user. Esc and the close box answer Cancel if there is that button,
-    /// else OK.
+    /// Shows pMessage and waits for the user. Esc and the close box answer Cancel if there is such a
+    /// button, else OK.
     virtual MessageAnswer ShowMessage(const Message &pMessage) = 0;
 
     /// Shows a file dialog over pForm and waits. Returns the chosen path as the user gave it; null if the
-    /// user dismissed the dialog. Opening and saving both accept a name that doesn't exist, and nothing is
-    /// asked before a file is replaced.
+    /// user dismissed the dialog. Both for opening and for saving it accepts the name of a file that doesn't
+    /// exist, and doesn't ask before a file is replaced.
     virtual std::optional<std::string> ShowFileDialog(const Form &pForm,
                                                       const FileDialogRequest &pRequest) = 0;
 
-    /// Brings pForm on screen, or to the front when it is there.
+    /// Brings pForm on screen, or to the front when it is there already.
     virtual void ShowForm(Form &pForm) = 0;
 
     /// Takes pForm, which has been unloaded, off the screen.
     virtual void CloseForm(Form &pForm) = 0;
 
     /// Opens pTarget, a document's path or a web address, with the program that the system has for it.
-    /// Reports nothing.
+    /// Doesn't report failure.
     virtual void OpenTarget(const std::string &pTarget) = 0;
 
     /// Ends the process at once with pStatus.

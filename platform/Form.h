@@ -1,6 +1,6 @@
 #pragma once
 /// A form: the caption, size and state of a window, its controls, and its events. It needs no screen. A
-/// desktop shows it, and turns the acts of the user on the window into the verbs below.
+/// desktop shows it, and calls the User... functions below when the user acts on the window.
 #include "platform/Control.h"
 #include "platform/Event.h"
 
@@ -20,7 +20,8 @@ public:
     static constexpr int stateMaximized = 2;
 
     /// A fixed allowance for frame, title and menu bar, by which Width and Height exceed the client area. The
-    /// size of the real frame becomes known only on the screen, and would look like growth then.
+    /// size of the real frame isn't known before the window is on the screen. Taking it over then would look
+    /// as if the form had grown.
     static constexpr float frameWidthTwips = 240;
     static constexpr float frameHeightTwips = 1050;
 
@@ -35,7 +36,7 @@ public:
     BorderStyle Border() const { return myBorder; }
     void Border(BorderStyle pBorder) { myBorder = pBorder; }
 
-    /// Outer size in twips. To write another value raises Resize at once.
+    /// Outer size in twips. Setting a different value raises Resize at once.
     float Width() const { return myWidth; }
     void Width(float pTwips);
     float Height() const { return myHeight; }
@@ -47,7 +48,7 @@ public:
     /// Sets the size by the client area. Raises nothing.
     void ClientSize(float pWidth, float pHeight);
 
-    /// The outer size in twips below which a user should not be able to drag the window; 0 is any.
+    /// The outer size in twips below which a user should not be able to drag the window; 0 for no limit.
     void LeastSize(float pWidth, float pHeight);
     float LeastClientWidth() const { return myLeastWidth - frameWidthTwips; }
     float LeastClientHeight() const { return myLeastHeight - frameHeightTwips; }
@@ -56,7 +57,7 @@ public:
     int WindowState() const { return myWindowState; }
     void WindowState(int pState);
 
-    /// Adds a control after those that the form has. Throws std::invalid_argument if it has one of that name.
+    /// Adds a control after the others. Throws std::invalid_argument if one of them has that name already.
     template <typename Kind> Kind &Add(const std::string &pName);
     /// The control of that name. Throws std::out_of_range if there is none.
     Control &Controls(const std::string &pName) const { return *myByName.at(pName); }
@@ -67,7 +68,7 @@ public:
     void Load();
     /// Raises UnloadEvent and closes the window. Does nothing if the form isn't loaded.
     void Unload();
-    /// Loads the form if it isn't loaded, and brings it on screen. The first time raises Resize.
+    /// Loads the form if it isn't loaded, and brings it on screen. Raises Resize the first time.
     void Show();
     bool IsLoaded() const { return myIsLoaded; }
     bool IsShown() const { return myIsShown; }
@@ -81,7 +82,7 @@ public:
     void UserPressesEnter() const;
 
     /// Goes up when the program sets caption, state or size, and when it adds a control. The user's acts
-    /// don't raise it.
+    /// don't change it.
     int Revision() const { return myRevision; }
 
     Event<> LoadEvent;

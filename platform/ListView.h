@@ -55,8 +55,8 @@ public:
 
     /// Appends an item, or throws and appends none.
     ListItem &Add(TextRow pTexts);
-    /// Removes item pIndex. If it was selected, the item that takes its place is selected next, or the new
-    /// last item if it was the last.
+    /// Removes item pIndex. If it was selected, the item after it becomes selected, or the new last item if
+    /// there is none after it.
     void Remove(int pIndex);
     void Clear();
 
@@ -100,7 +100,7 @@ public:
     ::ListItems ListItems;
     ::ColumnHeaders ColumnHeaders;
 
-    /// The selected item, or nothing.
+    /// The selected item; null if none is.
     ListItem *SelectedItem() const;
     /// Place of the selected item, from 1; 0 if none is selected. Setting 0 clears the selection.
     int SelectedIndex() const { return mySelected; }
@@ -110,8 +110,8 @@ public:
     /// selection is cleared.
     int CurrentIndex() const { return myCurrent; }
 
-    /// Place of the first item, counted from pFrom to the end and from there round to the one before it,
-    /// whose text begins with pStart, case ignored; 0 if there is none.
+    /// Place of the first item whose text begins with pStart, case ignored; 0 if there is none. The search
+    /// goes from pFrom to the end of the list, then from its start to the item before pFrom.
     int FindItem(std::string_view pStart, int pFrom) const;
 
     /// The user picks item pIndex, from 1 to Count, by mouse or key. Also raises ItemClick if the item is
@@ -119,7 +119,7 @@ public:
     void Pick(int pIndex);
 
     /// RowsRevision goes up when rows or cells change, ColumnsRevision when columns do. A change of the
-    /// selection raises neither, only Revision.
+    /// selection counts only in Revision.
     int RowsRevision() const { return myRowsRevision; }
     int ColumnsRevision() const { return myColumnsRevision; }
 

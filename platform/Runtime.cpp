@@ -31,7 +31,7 @@ void Runtime::Stop(std::string_view pPrompt) const {
 
 void Runtime::End(int pStatus) const {
     myDesktop.EndProcess(pStatus);
-    std::abort(); // Not reached. The compiler ignores that a virtual function never returns.
+    std::abort(); // Not reached, but the compiler ignores [[noreturn]] on a virtual function.
 }
 
 void Runtime::Act(const std::function<void()> &pAct) const {

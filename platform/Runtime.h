@@ -23,7 +23,7 @@ struct AppRecord {
     int Revision = 0;
 };
 
-/// Makes a command text of pWords, the words after the program's name. Joins them by blanks. A word that is
+/// Joins pWords, the words after the program's name, into a command text, with blanks between. A word that is
 /// empty or holds a blank gets double quotes, unless it holds a double quote itself.
 std::string CommandText(const std::vector<std::string> &pWords);
 
