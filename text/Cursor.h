@@ -1,6 +1,6 @@
 #pragma once
-/// A place in a text that moves from its start to its end. The scanners of lines, numbers and command text
-/// stand on it: they say what they expect next, and it says whether it was there.
+/// A place in a text that moves from the start of the text to its end. The scanners of lines, numbers and
+/// command text are built on it: they say what they expect next, and it says whether that was there.
 #include <cstddef>
 #include <cstring>
 #include <string_view>
@@ -42,7 +42,7 @@ public:
         return TakeWhile([](char pCharacter) { return pCharacter == ' '; });
     }
 
-    /// Passes all characters up to the next pEnd, or up to the end of the text without one, and returns them.
+    /// Passes all characters up to the next pEnd, or to the end of the text if there is none. Returns them.
     std::string_view TakeUntil(char pEnd) {
         const char *const from = myAt;
         const void *const found =

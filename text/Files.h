@@ -1,6 +1,6 @@
 #pragma once
 /// Text files: Dir looks for them, TextInput reads them by lines and items, TextOutput writes them line by
-/// line. The line rule stands here and nowhere else: CR or CR LF ends a line, LF alone does not.
+/// line. The rule for line ends is kept only here: CR or CR LF ends a line, LF alone does not.
 #include "text/System.h"
 
 #include <memory>
@@ -28,8 +28,8 @@ public:
     std::string_view LineInput();
 
     /// The next item of the current line; null when the line has none left. Skips blanks before it. An item
-    /// ends at a comma, a blank or the end of the line; blanks after it and one comma are skipped too. It
-    /// stays valid until the next line is read.
+    /// ends at a comma, a blank or the end of the line; blanks after it and one comma are skipped too. The
+    /// item stays valid until the next line is read.
     std::optional<std::string_view> InputItem();
 
 private:
@@ -56,8 +56,8 @@ public:
     /// Adds pText, at most pMostBytes long, and a line end, CR LF.
     void PrintLine(std::string_view pText);
 
-    /// Room for the next line, pMostBytes long. EndLine adds the line put there, which ends at pEnd, and a
-    /// line end.
+    /// Room of pMostBytes for the next line. EndLine takes the line written there, which ends at pEnd, and
+    /// adds a line end.
     char *BeginLine() { return myEnd; }
     void EndLine(char *pEnd);
 

@@ -42,8 +42,8 @@ std::string_view LeadingNumber(std::string_view pText) {
     return text.PassedSince(0);
 }
 
-/// The value of a number beyond the range of a double: an infinity or 0. The place of its first digit other
-/// than 0, corrected by the exponent, tells which. The exponent may itself be too long for an integer.
+/// The value of a number beyond the range of a double: an infinity or 0. The place of its
+/// first nonzero digit plus the exponent tells which. The exponent itself may be too long for an integer.
 double BeyondDouble(std::string_view pNumber) {
     const bool negative = pNumber.front() == '-';
     const std::size_t letter = pNumber.find_first_of("eE");

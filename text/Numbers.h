@@ -1,14 +1,14 @@
 #pragma once
-/// Numbers as the runtime reads, rounds and writes them. The conversions differ on purpose, and each stands
-/// here once.
+/// Numbers as the runtime reads, rounds and writes them. The conversions differ on purpose, and each is
+/// defined only here.
 #include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
 
 /// The longest leading number of pText: optional sign, digits with at most one ".", optional exponent. Skips
-/// blanks and tabs wherever they stand. 0 without a leading number; an infinity beyond the range of a double.
-/// Never fails.
+/// blanks and tabs wherever they stand. Returns 0 if there is no such number, and an infinity if it is too
+/// large for a double. Never fails.
 double Val(std::string_view pText);
 
 /// pValue rounded to the nearest whole number, an exact half to the even one. Null when the result is not in
@@ -28,8 +28,8 @@ std::optional<std::int16_t> WholeTextInteger(std::string_view pText);
 /// The pattern "0": plain digits, rounded to the nearest whole number, an exact half away from zero.
 std::string FormatWhole(double pValue);
 
-/// The patterns "00", "0000" and so on: the digits of pValue (0 or more), with zeros in front to make
-/// pDigits.
+/// The patterns "00", "0000" and so on: the digits of pValue (0 or more), with zeros in front if there are
+/// fewer than pDigits.
 std::string FormatDigits(int pValue, int pDigits);
 
 /// The digits of pValue, with a blank in front when it is 0 or more and a minus sign when it is negative.

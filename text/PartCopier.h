@@ -6,7 +6,7 @@
 #include <cstring>
 #include <string_view>
 
-/// PartCopier may write this many bytes more than the text has; they have no meaning.
+/// PartCopier may write up to this many bytes after the end of a copy; they have no meaning.
 inline constexpr std::size_t copySlack = 32;
 
 /// Most texts are short, and copying a fixed number of bytes takes less time than finding out how few would
@@ -19,8 +19,8 @@ public:
         : myBegin(Address(pWhole)),
           myFastPlaces(pWhole.size() < copySlack ? 0 : pWhole.size() - copySlack + 1) {}
 
-    /// Copies pPart, which may also lie elsewhere, to pTo and returns the end of the copy. pTo needs room for
-    /// copySlack bytes more.
+    /// Copies pPart, which need not lie in the whole, to pTo and returns the end of the copy. pTo needs room
+    /// for copySlack bytes more than pPart has.
     char *Copy(std::string_view pPart, char *pTo) const {
         // For a part before the whole the difference wraps to a huge number, so one comparison checks both
         // sides.
@@ -38,5 +38,5 @@ private:
     }
 
     std::uintptr_t myBegin;
-    std::size_t myFastPlaces; ///< so many places, from the start of the whole, have copySlack readable bytes
+    std::size_t myFastPlaces; ///< how many places, from the start of the whole, have copySlack readable bytes
 };

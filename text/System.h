@@ -31,8 +31,8 @@ public:
     FileReader(const FileReader &) = delete;
     FileReader &operator=(const FileReader &) = delete;
 
-    /// Reads at most pSize bytes into pRoom and returns how many it read: 0 at the end of the file, and from
-    /// a fault on.
+    /// Reads at most pSize bytes into pRoom and returns how many it read: 0 at the end of the file, and after
+    /// a fault.
     std::size_t Read(char *pRoom, std::size_t pSize);
 
     /// The system's reason in words; empty while there is no fault.
@@ -44,7 +44,7 @@ private:
 };
 
 /// A file whose content is replaced. The constructor empties or creates the file. A pipe or a socket is a
-/// fault and is left alone; that a device can't be emptied or flushed is no fault.
+/// fault and is left alone. It is no fault if a device can't be emptied or flushed.
 class FileWriter {
 public:
     explicit FileWriter(const std::string &pPath);
@@ -52,7 +52,7 @@ public:
     FileWriter(const FileWriter &) = delete;
     FileWriter &operator=(const FileWriter &) = delete;
 
-    /// Appends pBytes. Does nothing from a fault on.
+    /// Appends pBytes. Does nothing after a fault.
     void Write(std::string_view pBytes);
     /// Flushes to the disk and closes the file. Nothing more can be written.
     void Close();
@@ -75,7 +75,7 @@ char32_t LowerCase(char32_t pCharacter);
 /// The full path of the running program's file, with links followed; empty if the system won't tell.
 std::string ProgramFile();
 
-/// Makes a write beyond the limit of file size fail with a reason. Without this call it ends the process.
+/// Makes a write beyond the limit of file size fail with a reason, instead of ending the process.
 void ReportWriteLimits();
 
 } // namespace os

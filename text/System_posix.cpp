@@ -56,7 +56,7 @@ bool IsPipe(const struct stat &pStatus) {
     return S_ISFIFO(pStatus.st_mode) || S_ISSOCK(pStatus.st_mode);
 }
 
-/// Flushes to the disk. A device without a disk is no fault.
+/// Flushes to the disk. It is no fault if a device doesn't support that.
 bool Flush(int pNumber) {
     return fsync(pNumber) == 0 || errno == EINVAL || errno == EROFS || errno == ENOTSUP;
 }

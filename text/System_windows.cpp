@@ -95,7 +95,7 @@ DWORD SizeForCall(std::size_t pSize) {
     return static_cast<DWORD>(std::min(pSize, mostBytesPerCall));
 }
 
-/// Flushes to the disk. A file system without that notion is no fault.
+/// Flushes to the disk. It is no fault if the file system doesn't support that.
 bool Flush(HANDLE pFile) {
     if (FlushFileBuffers(pFile) != 0) {
         return true;

@@ -40,8 +40,8 @@ bool SameIgnoringCase(const CodePoint &pOne, const CodePoint &pOther) {
 }
 
 struct Comparison {
-    bool isStartOf;  ///< the longer text begins with the shorter one
-    std::size_t end; ///< where the match in the longer one ends
+    bool isStartOf;  ///< pText begins with pStart
+    std::size_t end; ///< where in pText the match ends
 };
 
 Comparison MatchStart(std::string_view pText, std::string_view pStart) {

@@ -46,7 +46,7 @@ int Utf16Length(std::string_view pText);
 /// pText in double quotes for a message: on one line, and cut after 60 bytes.
 std::string Quoted(std::string_view pText);
 
-/// An edit has changed the text of a single-line field from pBefore to pAfter. Returns pAfter with a blank
-/// for each line break (CR, LF or CR LF) that the edit brought in, and without those at the end of what it
-/// brought in: a cell copied from a spreadsheet ends in one. Line breaks of pBefore stay.
+/// An edit has changed the text of a single-line field from pBefore to pAfter. Returns pAfter with the
+/// line breaks (CR, LF or CR LF) of the inserted text changed: those at its end are dropped, since a cell
+/// copied from a spreadsheet ends in one, and any other becomes a blank. Line breaks of pBefore stay.
 std::string WithoutNewLineBreaks(std::string_view pBefore, std::string_view pAfter);

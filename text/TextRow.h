@@ -14,7 +14,7 @@
 
 class TextRow {
 public:
-    /// A place in the row's block. It takes half of what a pointer would, for each cell of a table.
+    /// A place in the row's block. A table has one for each cell, and a pointer would take twice the room.
     using Place = std::uint32_t;
 
     /// A row without texts.
@@ -69,7 +69,7 @@ public:
     void AddPart(std::string_view pPart) { myTextEnd = mySource.Copy(pPart, myTextEnd); }
     /// Removes the blanks at the end of that text.
     void DropBlanksAtEnd();
-    /// Appends the text of the parts added since the last one. A row that is full stays as it is.
+    /// Appends the text made of the parts added since the last text. A row that is full stays as it is.
     void EndText();
 
     /// The row of the texts appended so far.
@@ -82,7 +82,7 @@ private:
     char *myTextEnd;
     TextRow::Place *myEnds;
     TextRow::Place *myNextEnd;
-    TextRow::Place *myEndsEnd; ///< end of the room for them
+    TextRow::Place *myEndsEnd; ///< end of the room for the ends
 };
 
 inline TextRowBuilder::TextRowBuilder(TextRowRoom &pRoom, std::size_t pMostTexts, std::size_t pMostBytes,
