@@ -103,7 +103,7 @@ private:
     void cmdSave_Click();
     void cmdCancel_Click();
     void SetDialogFilter();
-    /// Shows pText in a message; nothing when it is empty.
+    /// Shows pText in a message. Does nothing when it is empty.
     void TellFault(std::string_view pText) const;
 
     // Button states.
