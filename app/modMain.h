@@ -1,6 +1,6 @@
 #pragma once
-/// The entry. It takes files, title and format from the command line, owns the forms, and runs the start
-/// sequence.
+/// The program's entry point. It takes files, title and format from the command line, owns the forms, and
+/// runs the start sequence.
 #include <memory>
 #include <string>
 #include <vector>

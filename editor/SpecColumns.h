@@ -25,7 +25,7 @@ struct SpecColumn {
 
 class SpecColumns {
 public:
-    /// Reads the columns of pSpec, which has been loaded.
+    /// Reads the columns of pSpec, which must be loaded.
     explicit SpecColumns(const clsDatFile &pSpec);
 
     /// The first fault of the specification, in a sentence for the user. Empty when there is none; only then

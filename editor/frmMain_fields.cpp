@@ -1,5 +1,5 @@
 // Building the fields: the labels, fields, list columns and layout tags of the form, one of each for every
-// column that the specification asks for.
+// column of the specification.
 #include "editor/frmMain.h"
 
 #include "editor/SpecColumns.h"
