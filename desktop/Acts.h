@@ -1,5 +1,5 @@
 #pragma once
-/// The way by which widgets pass an act of the user to the program.
+/// How widgets pass the user's acts to the program.
 #include <functional>
 
 class Acts {
@@ -8,7 +8,7 @@ public:
 
     /// Runs pAct, which calls one verb of a control or form. Then brings all windows up to date, and ends the
     /// program if no form is loaded any more. Does nothing while a box waits for the user inside another act:
-    /// assistive technology can press buttons under the box, and the program must not act on it.
+    /// assistive technology can press buttons under the box, and the program must ignore that.
     virtual void Handle(const std::function<void()> &pAct) = 0;
 
     /// The same, but also under a waiting box, for acts that the program must keep up with: changes of a

@@ -43,7 +43,7 @@ void ButtonView::Show() {
 
 void ButtonView::ShowEnabled() {
     // Qt would move the focus from a disabled button to the next one. A second press of the space bar would
-    // then do something else than the first.
+    // then act on that one.
     auto *form = dynamic_cast<FormWindow *>(window());
     if (!myButton.Enabled() && form != nullptr && form->focusWidget() == this) {
         form->FocusFallback();

@@ -1,6 +1,6 @@
 #pragma once
 /// The view of one control: a widget that shows the control's state and passes on the user's acts. It
-/// compares revisions, and does nothing while the control's stays the same.
+/// remembers the control's revision, and does nothing until that changes.
 #include "desktop/Acts.h"
 #include "platform/Control.h"
 

@@ -81,7 +81,7 @@ ComboBoxView::ComboBoxView(Acts &pActs, ComboBox &pBox, QWidget &pParent)
     const QScopedValueRollback showing(myIsShowing, true);
     setCompleter(nullptr);
     setInsertPolicy(NoInsert);
-    // The form sets the size. To measure 200,000 entries for it would take a noticeable time.
+    // The form sets the size. Qt would work it out from the entries, and 200,000 take a noticeable time.
     setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
     setMaxVisibleItems(12);
     setModel(&myEntries);
@@ -182,7 +182,7 @@ void ComboBoxView::showPopup() {
         return;
     }
     {
-        // Only the popup needs Qt's own current entry. To set it overwrites the text.
+        // Only the popup needs Qt's own current entry. Setting it overwrites the text.
         const QScopedValueRollback showing(myIsShowing, true);
         const int current = CurrentEntry();
         setCurrentIndex(current >= 0 ? current : EntryLikeText());
@@ -193,7 +193,7 @@ void ComboBoxView::showPopup() {
 }
 
 void ComboBoxView::WidenPopup() {
-    // To measure all of a long list would take a noticeable time.
+    // Measuring all of a long list would take a noticeable time.
     constexpr int mostMeasured = 500;
     constexpr int mostWidth = 480;
     int textWidth = 0;
@@ -252,6 +252,6 @@ void ComboBoxView::keyReleaseEvent(QKeyEvent *pEvent) {
 }
 
 void ComboBoxView::wheelEvent(QWheelEvent *pEvent) {
-    // Over a closed box it would change a field that the user only scrolls past.
+    // Over a closed box the wheel would change a field that the user only scrolls past.
     pEvent->ignore();
 }

@@ -93,7 +93,7 @@ void FileDialog::accept() {
                                                       : directory().filePath(name);
     if (QFileInfo(path).isDir()) {
         setDirectory(path);
-        myNameEdit->clear(); // Otherwise the next accept would look for it inside itself.
+        myNameEdit->clear(); // Otherwise the next accept would look for this name in the new folder.
         return;
     }
     myChosen = path;

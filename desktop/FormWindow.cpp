@@ -200,7 +200,7 @@ void FormWindow::FollowForm() {
     if (State() != Form::stateNormal || given == WantedClient()) {
         return;
     }
-    // A window system that insists on a size gives it again at once. To answer each time would never end.
+    // A window system that insists on a size gives it again at once. Answering each time would never end.
     if (!myIsReady || given != myCorrected) {
         myCorrected = myIsReady ? given : QSize();
         ResizeToForm();
@@ -255,7 +255,7 @@ bool FormWindow::event(QEvent *pEvent) {
     if (pEvent->type() == QEvent::WindowActivate) {
         ShowFocus();
     }
-    // The menu bar wants another height, for example because the system has another font now.
+    // The menu bar wants another height, for example because the system's font has changed.
     if (pEvent->type() == QEvent::LayoutRequest && myIsReady && myBar != nullptr &&
         myBar->height() != MenuHeight(width())) {
         ShowLeastSize();

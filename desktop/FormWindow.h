@@ -21,7 +21,7 @@ public:
     /// Brings the window and all its controls up to date with the form.
     void Sync();
 
-    /// Takes the window off the screen and stops it from passing anything on. The form is gone.
+    /// Takes the window off the screen and stops it from passing anything on. Its form has been unloaded.
     void Retire();
 
     /// The acts of the views, passed on as long as the form is there.

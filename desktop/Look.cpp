@@ -23,7 +23,7 @@ QRect PixelRect(const SizedControl &pControl) {
 QFont FormFont() {
     constexpr int formFontPixels = 11;
     QFont font;
-    // Only an installed family will do. The system would replace any other by one of its choice.
+    // Only an installed family will do. The system would replace any other with one of its own choice.
     const QStringList installed = QFontDatabase::families();
     for (const auto *family : {"Tahoma", "Liberation Sans", "DejaVu Sans Condensed"}) {
         if (installed.contains(QLatin1String(family), Qt::CaseInsensitive)) {
@@ -68,7 +68,7 @@ QPalette LightPalette() {
 QIcon ProgramIcon() {
     QIcon icon;
     for (const int size : {16, 24, 32, 48, 64, 128}) {
-        // Without the name of the format Qt would load and ask every installed reader of pictures.
+        // Without the name of the format Qt would load every installed picture reader and ask each one.
         icon.addPixmap(QPixmap(QStringLiteral(":/icons/%1.png").arg(size), "PNG"));
     }
     return icon;

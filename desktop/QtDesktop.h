@@ -12,7 +12,7 @@
 
 class Runtime;
 
-/// The application object of Qt must exist before.
+/// Create Qt's application object first.
 class QtDesktop : public Desktop, public Acts {
 public:
     QtDesktop();
@@ -20,7 +20,7 @@ public:
     QtDesktop(const QtDesktop &) = delete;
     QtDesktop &operator=(const QtDesktop &) = delete;
 
-    /// Sets the runtime, which ends the program when no form is left. To be called before any act.
+    /// Sets the runtime, which ends the program when no form is left. Call it before any act.
     void Serves(const Runtime &pRuntime) { myRuntime = &pRuntime; }
 
     /// The window of pForm; null while it isn't on the screen.

@@ -17,7 +17,7 @@ RecordList::RecordList(Acts &pActs, ListView &pList, QWidget &pParent)
     : QTableView(&pParent), ControlView(pActs, pList), myList(pList), myModel(pList) {
     setModel(&myModel);
     Prepare();
-    // Later, because Qt is still changing its selection.
+    // The timer waits until Qt has finished changing its selection.
     mySelectedByOthers.setSingleShot(true);
     connect(&mySelectedByOthers, &QTimer::timeout, this, [this] { SelectedByOthers(); });
     connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
@@ -117,7 +117,7 @@ void RecordList::ShowRows() {
         myShownColumns = 0;
     }
     myModel.Reset();
-    updateGeometries(); // Otherwise the scroll bars have no range yet for their values.
+    updateGeometries(); // Gives the scroll bars their range before they get their values.
     verticalScrollBar()->setValue(top);
     horizontalScrollBar()->setValue(left);
     ShowSelection();

@@ -16,7 +16,7 @@ int main(int argc, char *argv[]) {
     os::ReportWriteLimits();
     const std::string command = CommandText(std::vector<std::string>(argv + (argc > 0 ? 1 : 0), argv + argc));
 
-    // Qt must not see the words: it would take those that it knows.
+    // Qt must not see the command line: it would take the words that it knows.
     std::string name(versionRecord::productName);
     char *words[] = {name.data(), nullptr};
     int wordCount = 1;

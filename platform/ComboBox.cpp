@@ -90,7 +90,7 @@ void ComboBox::UserSelects(int pSelStart, int pSelLength) {
 
 void ComboBox::UserPicks(int pIndex) {
     ListIndex(pIndex);
-    SelLength(Utf16Length(Text())); // The next letter typed begins another text.
+    SelLength(Utf16Length(Text())); // The next letter typed replaces the text.
 }
 
 bool ComboBox::TakeTyped() {

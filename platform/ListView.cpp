@@ -123,8 +123,8 @@ void ListView::ItemAdded() {
 }
 
 void ListView::ItemRemoved(int pIndex) {
-    // The item after the removed one moves into its place, so only a place further down changes. If there is
-    // none after it, the new last item takes over.
+    // The item after the removed one moves into its place, so only places further down change. If the removed
+    // item was the last one, the place becomes that of the new last item.
     const auto follow = [&](int pPlace) {
         return std::min(pPlace - (pIndex < pPlace ? 1 : 0), ListItems.Count());
     };
