@@ -17,7 +17,7 @@ public:
     void Save(const std::string &pFile) { form.AppCmd("save", {pFile}); }
     int Rows() const { return form.ListView1.ListItems.Count(); }
     TextRow Row(int pRow) const { return form.ListView1.ListItems(pRow).Texts(); }
-    /// The last message: everything that is measured should go well without one.
+    /// The last message; empty when all went well.
     const std::string &Fault() const { return myDesktop.LastMessage(); }
 
 private:

@@ -1,7 +1,7 @@
 #pragma once
 /// Times acts in fresh memory. The program opens a file once in a run, in memory that the process has not
-/// touched yet, and much of what that costs is the system handing over pages. So each pass is timed on its
-/// own; before it, the freed memory of the last one goes back to the system.
+/// touched yet. Much of that time goes to the system, which hands over the pages. So each pass is timed on
+/// its own, after the freed memory of the last one has gone back to the system.
 #include "bench/Tables.h"
 
 #include <benchmark/benchmark.h>
@@ -37,10 +37,10 @@ inline double StatusMegabytes(const std::string &pName) {
     return kilobytes * megabytesOfKilobyte;
 }
 
-/// Runs pAct on the result of pPrepare, once for each iteration, and times pAct alone. The act has to leave
-/// its result in the subject, so that it is destroyed outside the clock. pIsRight tells whether it is right:
-/// a wrong result is no time. The counters extra_MB and kept_MB are the memory that the act needed at its
-/// peak and the memory that it left in use.
+/// Runs pAct on the subject that pPrepare returns, once for each iteration, and times pAct alone. The act has
+/// to leave its result in the subject, so that destroying it isn't timed. pIsRight tells whether the result
+/// is right; if not, the benchmark reports an error. The counters extra_MB and kept_MB are the memory that
+/// the act needed at its peak and the memory that it left in use.
 template <typename Prepare, typename Act, typename IsRight>
 void Measure(benchmark::State &pState, Prepare pPrepare, Act pAct, IsRight pIsRight) {
     bool isRight = true;
@@ -59,8 +59,8 @@ void Measure(benchmark::State &pState, Prepare pPrepare, Act pAct, IsRight pIsRi
     }
 }
 
-/// Has a benchmark run five times at each of the sizes. The least time counts: everything else that the
-/// machine does only adds. This suits what is done often and so finds its memory warm.
+/// Makes a benchmark run five times at each of the sizes. The least time counts, since other work on the
+/// machine only adds to it. This suits acts that happen often and so find their memory warm.
 inline void Configure(Benchmark *pBenchmark, const char *pSizeName, const std::vector<std::int64_t> &pSizes) {
     pBenchmark->ArgName(pSizeName)->ArgsProduct({pSizes})->Unit(benchmark::kMillisecond);
     pBenchmark->Repetitions(5)->DisplayAggregatesOnly(true);
@@ -71,9 +71,8 @@ inline void ConfigureBytes(Benchmark *pBenchmark) {
     Configure(pBenchmark, "bytes", Tables::byteCounts);
 }
 
-/// The same for Measure, at the numbers of rows: nine passes of one iteration. Benchmarks of one program can
-/// take turns with them (see
-/// --benchmark_enable_random_interleaving).
+/// The same for Measure, at the numbers of rows: nine passes of one iteration. The passes of several
+/// benchmarks can take turns (see --benchmark_enable_random_interleaving).
 inline void ConfigureRows(Benchmark *pBenchmark) {
     Configure(pBenchmark, "rows", Tables::rowCounts);
     pBenchmark->UseManualTime()->Iterations(1)->Repetitions(9);

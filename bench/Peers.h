@@ -1,8 +1,8 @@
 #pragma once
-/// Other ways to read and write a .dat file, with which the program's own is compared on the same bytes. They
-/// go from the least that any program must do to what one does that keeps its cells in the library's strings.
-/// Readers that return rows return the first line as a row, too. As the program does, writers have the system
-/// flush the file to the disk before they close it.
+/// Other ways to read and write a .dat file, to compare the program with on the same bytes. The fastest do
+/// only what every program must do; the slowest keep each cell in a std::string. Readers that return rows
+/// return the first line as a row, too. Like the program, writers flush the file to the disk before they
+/// close it.
 #include "bench/Tables.h"
 
 #include <cstdio>
@@ -43,7 +43,7 @@ struct Buffer {
     std::size_t size = 0;
 };
 
-/// The file alone, into memory that nobody has cleared before. No reader can do less.
+/// Reads the file and does nothing else; the memory for it isn't cleared first. No reader can do less.
 inline Buffer ReadWhole(const std::string &pFile) {
     const FilePointer file = Open(pFile, "rb");
     const std::size_t size = std::filesystem::file_size(pFile);
@@ -75,7 +75,7 @@ inline References::Cell TakeField(char *&pAt, const Buffer &pBuffer) {
         }
         to += length;
         pAt = quote + 1;
-        if (*pAt != '"') { // There is a line end at least.
+        if (*pAt != '"') { // A line end follows at least.
             return {static_cast<std::uint32_t>(field - pBuffer.bytes.get()),
                     static_cast<std::uint32_t>(to - field)};
         }
@@ -146,7 +146,7 @@ inline void TakeLibcsvRow(int /*pCharacter*/, void *pCollector) {
     collector.row.reserve(room);
 }
 
-/// libcsv, fed by blocks as its manual has it. Each cell becomes a string in the vector of its row. With
+/// libcsv, fed by blocks as its manual says. Each cell becomes a string in the vector of its row. With
 /// makesRoom that vector has room from the start for as many cells as the row before it.
 template <bool makesRoom> std::vector<Tables::Row> ReadByLibcsv(const std::string &pFile) {
     const FilePointer file = Open(pFile, "rb");

@@ -1,8 +1,8 @@
 #pragma once
 /// The tables that everything here is measured on, and their files. They are the same bytes each time and on
-/// each machine. Cells vary in length around 10.7 bytes; some hold a comma, some a quote that the file
-/// doubles, some a letter beyond ASCII. No cell begins or ends in a blank or holds a line end, so that each
-/// reader finds the same cells.
+/// each machine. Cells vary in length, and have about 10.7 bytes on average; some hold a comma, some a quote
+/// that the file doubles, some a letter beyond ASCII. No cell begins or ends in a blank or holds a line end,
+/// so that each reader finds the same cells.
 ///
 /// The files are in a folder that goes when the program ends. It is made in memory (/dev/shm), where no disk
 /// slows things down, or in the folder that NORVO_BENCH_FOLDER names.
@@ -48,7 +48,8 @@ void AppendRow(std::string &pText, const Row &pRow);
 /// The whole file of a table. pFmt is one of clsDatFile's.
 std::string FileText(std::int16_t pFmt, Cells pCells);
 
-/// The path of that file. It is written when it is asked for first, so pCells has to last.
+/// The path of that file. The first call writes the file. Later calls find it by the address of pCells, which
+/// has to last.
 std::string File(std::int16_t pFmt, Cells pCells);
 
 /// The path for a new copy of a table. The last copy is removed.

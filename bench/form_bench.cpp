@@ -21,7 +21,7 @@ struct Field {
 
 struct Language {
     std::string entry;    ///< followed by its number
-    std::string unlisted; ///< in capitals, which don't count
+    std::string unlisted; ///< in capitals, which make no difference
 };
 
 const Language ascii{"Entry number ", "ENTRY NUMBER x"};

@@ -7,7 +7,7 @@
 
 namespace {
 
-/// What is done with a row, from 1.
+/// An act on a row, from 1.
 using Step = void (*)(frmMain &, int);
 
 const Step nothing = [](frmMain & /*pForm*/, int /*pRow*/) {};
@@ -37,7 +37,7 @@ void Act(benchmark::State &pState, Step pBefore, Step pAct, Step pAfter) {
     }
 }
 
-/// Puts the cells into the list, as a table is shown.
+/// Puts the cells into the list, as opening a file does.
 void FillList(benchmark::State &pState) {
     const Tables::Cells cells = Tables::Limit(pState.range(0));
     const auto fill = [&](auto &pEditor) {

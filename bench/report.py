@@ -1,11 +1,11 @@
-"""Makes one table of what bench/run has measured. A line says what was measured, its figure, what it is compared with
-and the figure of that, the ratio, the goal and whether it is met.
+"""Makes one table of what bench/run has measured. A line gives what was measured and its figure, what it is compared
+with and the figure of that, the ratio, the goal, and whether it is met.
 
     python3 bench/report.py RESULTS_FOLDER TABLES_FOLDER
 
-Of the passes of a benchmark the least counts, and the median follows in brackets: everything else that the machine
-does only adds to a time. Of the window's figures the median over its rounds counts. Growth is the power x in size^x
-over the five sizes that were measured: 1 is linear, 0 is flat."""
+The time of a benchmark is the least of its passes, since other work on the machine only adds to a time; the median
+follows in brackets. A figure of the window is the median of its rounds. Growth is the power x in size^x over the five
+sizes that were measured: 1 is linear, 0 is flat."""
 
 import glob
 import json
@@ -16,8 +16,9 @@ import statistics
 import sys
 
 FORMS = {"dat": ".dat", "csv": ".csv", "csvh": ".csv with header"}
-# What is compared at the largest size: what, its benchmark, the title of the other and its benchmark, the goal. The
-# ratio is how many times as fast as the other it is, or how many times as long it takes where the goal says "<=".
+# What is compared at the largest size: what, its benchmark, the title of the other and its benchmark, the goal.
+# The ratio says how many times as fast as the other it is. Where the goal begins with "<=", it says how many times
+# as long it takes.
 COMPARED = (
     ("Load", "Load/%s", "libcsv, cells kept", "ReadPeer/libcsv", ">= 4"),
     ("Load", "Load/%s", "libcsv, rows with room", "ReadPeer/libcsv_room", "-"),
@@ -37,7 +38,7 @@ MEMORY = (  # what, its benchmark and the counter, the goal for its megabytes
     ("Save %s, memory beside", "Save/%s", "extra_MB", "<= 10"),
     ("AppSave %s, memory beside", "AppSave/%s", "extra_MB", "-"),
 )
-FLAT, LINEAR = "<= 0.1", "<= 1.15"  # the highest powers that count as such; caches add to the true one
+FLAT, LINEAR = "<= 0.1", "<= 1.15"  # the highest powers that count as flat and as linear; caches add a little
 WINDOW_TIMES = (  # name, the goals for the typical and the limit table
     ("start", "<= 1.2 x floor", "<= 2.2 x floor"),
     ("down", "-", "<= 3 x floor"),
@@ -54,7 +55,7 @@ WINDOW_MEMORY = (  # table, name, title, the goal for what the program has beyon
 
 
 def line(what, figure, title="-", other="-", ratio=None, goal="-"):
-    """A goal begins with what the ratio may be at most or least, such as "<= 1.2 x floor"."""
+    """A goal begins with the highest or lowest ratio that meets it, such as "<= 1.2 x floor"."""
     met = "-"
     if goal != "-":
         sign, number = goal.split()[:2]
@@ -140,7 +141,7 @@ def instructions(folder, tables):
 
 
 def window(rounds, tables):
-    """What window_times.py has measured. Ratios are formed round by round."""
+    """What window_times.py has measured. Ratios compare figures of the same round."""
     def column(key, name, scale):
         return [one[key][name] * scale for one in rounds]
 

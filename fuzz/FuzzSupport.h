@@ -1,9 +1,8 @@
 #pragma once
-/// What the fuzz targets share: the way to state a law, a table over a file in memory, and second opinions on
-/// lines and numbers, made in another way than the program's own.
+/// What the fuzz targets share: the way to state a law, a table with its file in memory, and other
+/// implementations of the rules for lines and numbers, to compare the program with.
 ///
-/// A target is a source file *_fuzz.cpp that defines RequireLaws. A crash is only the crudest of the faults
-/// that it can find.
+/// A target is a source file *_fuzz.cpp that defines RequireLaws. It finds broken laws as well as crashes.
 #include "bench/NoDesktop.h"
 #include "data/clsDatFile.h"
 #include "platform/Runtime.h"
@@ -20,7 +19,7 @@
 
 #include <sys/mman.h>
 
-/// Tries the laws of the target on any bytes whatever.
+/// Checks that the laws of the target hold for pBytes, which may be any bytes.
 void RequireLaws(std::string_view pBytes);
 
 /// Aborts the process and prints pLaw when pHolds is false.
@@ -91,7 +90,7 @@ struct TableProbe {
     clsDatFile table{runtime};
 };
 
-// Second opinions.
+// Other implementations of the program's rules.
 
 /// The lines of a text whose lines end in CR or CR LF.
 inline std::vector<std::string_view> LinesOf(std::string_view pBytes) {

@@ -1,5 +1,5 @@
-/// The command text. A second reading of the rules splits it into the same words. The words that a shell
-/// hands over (here with a NUL between them) come out again, unless one of them holds a quotation mark.
+/// The command text. A second implementation of the rules splits it into the same words. Words from a shell
+/// (here with a NUL between them) come out as they went in, unless one of them holds a quotation mark.
 #include "app/modArgcArgv.h"
 #include "fuzz/FuzzSupport.h"
 

@@ -27,7 +27,7 @@ void RequireLaws(std::string_view pBytes) {
     Require(came == table.Rows() || table.Row(static_cast<std::int16_t>(table.Rows() - 1)).Run().empty(),
             "the last row after a ragged line is empty");
 
-    // A first line in the form in which the program writes it.
+    // A first line as the program writes it.
     const std::string first(lines.empty() ? "" : lines[0]);
     int rows = -1;
     int cols = -1;

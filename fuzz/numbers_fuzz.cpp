@@ -1,5 +1,5 @@
-/// The number conversions on any text, and the roundings on any double (the first eight bytes), against the
-/// C library's opinion.
+/// The number conversions on any text, and the roundings on any double (the first eight bytes), against those
+/// of the C library.
 #include "fuzz/FuzzSupport.h"
 #include "text/Numbers.h"
 

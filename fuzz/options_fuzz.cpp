@@ -1,6 +1,6 @@
 /// Option strings, on a form that grows and shrinks. The first four bytes are the growth in width and height,
-/// the rest is the option string. The control goes where strtod says, or stays when its string is unfit. Its
-/// neighbour goes its own way whatever the string is.
+/// the rest is the option string. The control moves by the shares that strtod reads, or stays when its string
+/// is unfit. Its neighbour follows its own string, whatever the first one is.
 #include "fuzz/FuzzSupport.h"
 #include "platform/Controls.h"
 #include "platform/Form.h"

@@ -1,4 +1,4 @@
-/// The word splitter on any line, against a second reading of the same rules.
+/// The word splitter on any line, against a second implementation of the same rules.
 #include "data/modGetWords.h"
 #include "fuzz/FuzzSupport.h"
 
@@ -10,7 +10,7 @@ namespace {
 constexpr auto none = std::string_view::npos;
 
 /// Takes the word whose opening quote stands before pAt, up to the character that ends it, and moves pAt past
-/// that character. Nothing when the quotes don't come out.
+/// that character. Nothing when the quotes don't match up.
 std::optional<std::string> TakeQuotedWord(std::string_view pLine, std::size_t &pAt) {
     std::string word;
     for (std::size_t quote = pLine.find('"', pAt); quote != none; quote = pLine.find('"', pAt)) {

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Makes files that are hard on an editor, to try the program's window on them.
+"""Makes files that are hard on an editor, to try out with the program's window.
 
 usage: make-hostile-files.py FOLDER
 

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""A screen of its own: an X server without a monitor, and a window manager.
+"""A private screen: an X server without a monitor, and a window manager.
 
     tools/screen.py COMMAND [WORD...]     runs COMMAND on such a screen, and exits with its status
 
@@ -74,7 +74,7 @@ class Screen:
 
     def _start_server(self, environment):
         read_end, write_end = os.pipe()
-        # Without -noreset the server starts anew whenever its last client goes.
+        # Without -noreset the server resets whenever its last client disconnects.
         self.start(["Xvfb", "-displayfd", str(write_end), "-screen", "0", "%dx%dx24" % (WIDTH, HEIGHT),
                     "-nolisten", "tcp", "-noreset"], pass_fds=[write_end])
         os.close(write_end)

@@ -19,7 +19,7 @@ COLOURS = {  # window, its text, fields, their text, buttons, selection, its tex
 
 
 def settings(d, theme, points):
-    """Writes colours and font where one desktop that the toolkit knows keeps its own."""
+    """Writes colours and font into the settings of a desktop that the toolkit knows."""
     lines = ["[General]", "font=Liberation Sans,%d,-1,5,50,0,0,0,0,0" % points,
              "menuFont=Liberation Sans,%d,-1,5,50,0,0,0,0,0" % points, "[KDE]", "widgetStyle=Fusion"]
     if theme in COLOURS:

@@ -31,7 +31,7 @@ public:
     int columnCount(const QModelIndex & /*pParent*/ = {}) const override { return myColumns; }
 
     QVariant data(const QModelIndex &pIndex, int pRole) const override {
-        // As long as most cells.
+        // A text as long as most cells.
         return pRole == Qt::DisplayRole ? QString::asprintf("r%05d cell%d", pIndex.row(), pIndex.column())
                                         : QVariant();
     }

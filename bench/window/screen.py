@@ -16,12 +16,12 @@ from tools.screen import HEIGHT, TIMEOUT, WIDTH, Screen as EmptyScreen, until
 
 QUIET_AT_START = 0.25  # seconds without damage after which a picture counts as the final one
 QUIET = 0.12
-IDLE = 0.003  # seconds of the processor's that a program may take in that time and still count as done
+IDLE = 0.003  # processor seconds that a program may use in that time and still count as done
 
 
 class Screen(EmptyScreen):
     def __init__(self):
-        # No bus: the toolkit would start one, which is not the program's time.
+        # No bus: the toolkit would start one, and that would count as the program's time.
         self.environment = {name: value for name, value in os.environ.items() if not name.startswith(("QT_", "XDG_"))}
         self.environment.update(QT_QPA_PLATFORM="xcb", DBUS_SESSION_BUS_ADDRESS="disabled:")
         super().__init__(self.environment)
@@ -29,7 +29,7 @@ class Screen(EmptyScreen):
         self.damaged = {}  # window: when its last damage was heard of
         self.created = set()  # the windows of the program that was started last
         self.display = display.Display(self.environment["DISPLAY"])
-        self.display.set_error_handler(lambda *_: None)  # Windows come and go; what's missing is noticed.
+        self.display.set_error_handler(lambda *_: None)  # Windows come and go; the callers notice a missing one.
         self.display.damage_query_version()
         self.root = self.display.screen().root
         self.root.change_attributes(event_mask=X.SubstructureNotifyMask)
@@ -40,7 +40,7 @@ class Screen(EmptyScreen):
         return found.value[0] if found and len(found.value) else None
 
     def _owner(self, window):
-        """The part of a window's number that stands for the client that has made it."""
+        """The part of a window's number that identifies the client that made it."""
         return window & ~self.display.display.info.resource_id_mask
 
     def active(self):
@@ -49,10 +49,10 @@ class Screen(EmptyScreen):
         return self.display.create_resource_object("window", number) if number else None
 
     def listen(self, seconds):
-        """Takes in what the server says. Waits that long for the first of it."""
+        """Takes in the server's events. Waits at most that long for the first one."""
         if not self.display.pending_events():  # An answer to a request may have brought some along.
             select.select([self.display.fileno()], [], [], max(seconds, 0))
-        now = time.perf_counter()  # To take in the events lasts a while.
+        now = time.perf_counter()  # Taking in the events takes a while.
         for _ in range(self.display.pending_events()):
             one = self.display.next_event()
             if one.type == self.display.extension_event.DamageNotify:
@@ -80,8 +80,8 @@ class Screen(EmptyScreen):
 
 
 class Started:
-    """A program and its main window. start_time is from before the process is made to the final picture, in
-    seconds."""
+    """A program and its main window. start_time is the time in seconds from the start of the process to the final
+    picture."""
 
     def __init__(self, screen, words):
         self.screen = screen
@@ -107,8 +107,8 @@ class Started:
         return time.clock_gettime(clock)
 
     def _wait(self, windows, begin, quiet, must_paint):
-        """Waits until nothing paints and the program has had nothing to do for that many seconds. Returns when one of
-        the windows was painted last."""
+        """Waits until nothing has painted for quiet seconds and the program was idle in that time. Returns the time at
+        which one of the windows was last painted."""
         last, since = None, begin
         used = self._processor_time()
         while time.perf_counter() < begin + TIMEOUT:
@@ -127,13 +127,13 @@ class Started:
         raise AssertionError("nothing painted in %d s" % TIMEOUT)
 
     def settle(self):
-        """Waits until nothing more comes of what was done."""
+        """Waits until the program has finished what it was told to do."""
         self.screen.display.sync()
         self.screen.damaged.clear()
         self._wait([self.window.id], time.perf_counter(), QUIET, must_paint=False)
 
     def time(self, *names):
-        """Seconds from the requests that wait to be sent, and these keys, to the final picture of the window."""
+        """Sends these keys after the requests that still wait. Returns the seconds from then to the final picture."""
         self.screen.stroke(*names)
         self.screen.damaged.clear()
         begin = time.perf_counter()
@@ -158,7 +158,7 @@ class Started:
         return self.time()
 
     def peak_memory(self):
-        """Most bytes of memory that it has had so far."""
+        """The most memory that it has had so far, in bytes."""
         with open("/proc/%d/status" % self.process.pid, encoding="ascii", errors="replace") as file:
             line = next(one for one in file if one.startswith("VmHWM:"))
         return int(line.split()[1]) * 1024

@@ -1,6 +1,6 @@
 """Times the real window from outside: from a program's start, or from an act of its user, to the final picture.
 The floor, which is the least that the toolkit takes for a window of that shape, is measured in turn with the
-program. The figures depend on the machine, their ratios hardly. bench/report.py makes a table of them.
+program. The figures depend on the machine, but their ratios hardly do. bench/report.py makes a table of them.
 
     /usr/bin/python3 bench/window/window_times.py PROGRAM FLOOR_WINDOW TABLES_FOLDER FIGURES_FILE [--rounds N]
 
@@ -17,7 +17,7 @@ import time
 
 from screen import Screen, Started, until
 
-SAMPLES = 3  # of an act in each run, after one that warms up; their median counts
+SAMPLES = 3  # measurements of an act in each run, after one to warm up; the median counts
 GROWTH = 6  # pixels that one step of a drag adds
 # Places in the main window as it is designed, its menu bar included.
 FIRST_ROW, LOWER_ROW, ROWS_AREA = (28, 93), (28, 143), (10, 90, 400, 100)
@@ -58,7 +58,7 @@ def edits(run):
 
 
 def save(run, folder):
-    """Saves under a new name in the folder of the table. Returns the most memory that was in use until then."""
+    """Saves under a new name in the folder of the table. Returns the most memory that the program has used so far."""
     path = os.path.join(folder, "saved.dat")
     run.key("Alt_L", "a")
     until(lambda: run.screen.active() not in (None, run.window), "the file dialog")
@@ -74,7 +74,7 @@ def save(run, folder):
 
 def measure(screen, words, takes_edits):
     """Runs a program once. Returns its seconds, and bytes of memory, by name."""
-    time.sleep(1)  # The server and the window manager put away what has ended.
+    time.sleep(1)  # The server and the window manager clean up after the last program.
     run = Started(screen, words)
     # Rows draw a grid, so there are two colours at least as soon as rows are there.
     if run.inks(*ROWS_AREA) < 2:
@@ -107,7 +107,7 @@ def main():
         for number in range(options.rounds):
             print("round %d of %d" % (number + 1, options.rounds), file=sys.stderr)
             rounds.append({})
-            # In the opposite order each time: to be started first may be a burden or a help.
+            # In the opposite order each time, because it may help or hurt a program to be started first.
             for key in sorted(words, reverse=number % 2 == 1):
                 rounds[-1][key] = measure(screen, words[key], takes_edits=key.endswith("/program"))
     with open(options.figures, "w", encoding="utf-8") as file:

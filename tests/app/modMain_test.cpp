@@ -30,7 +30,7 @@ TEST(Start, ReadsFilesTitleAndFormatFromTheCommandLine) {
         {many.c_str(), "x", "none.dat", "1,3"}}; // A walk for each word runs into the tests' time limit.
     for (const auto &[command, title, dataFile, firstLine] : cases) {
         Program program;
-        // What a save offers and writes shows name and format.
+        // Saving shows the file's name in the dialog, and the format in what it writes.
         program.Start(command).Type("Name", "x").Press("Add").SaveAs(program.Files().File("saved"));
         EXPECT_EQ(program.Main().Caption(), title) << command;
         EXPECT_EQ(program.Script().Dialogs().back().name, dataFile) << command;
@@ -46,7 +46,7 @@ TEST(Start, EndsWithOneMessageOnABadCommandLineOrSpecification) {
         program.Script().Expect({usage, MessageButtons::Ok, "NorvoEditDat"});
         EXPECT_EQ(program.Start(command).ExitStatus(), 1);
     }
-    // The title of the command line comes later.
+    // The program sets the title of the command line only later.
     Program program;
     program.Script().Expect({"Specification file: " + program.Files().Path() + "\\no spec doesn't exist.",
                              MessageButtons::CriticalStop, caption});

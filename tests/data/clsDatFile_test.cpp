@@ -12,7 +12,7 @@ constexpr std::int16_t dat = clsDatFile::fmtDat;
 constexpr std::int16_t csv = clsDatFile::fmtCsv;
 constexpr std::int16_t csvh = clsDatFile::fmtCsvWithHeaders;
 
-/// One table takes all files of a test, so a case sees what the one before it has left.
+/// One table loads all files of a test, so each case starts with what the last one left in it.
 class DatFile : public testing::Test {
 protected:
     void Fill(const std::vector<std::vector<std::string>> &pCells) {
@@ -34,8 +34,8 @@ protected:
         return myFiles.Read("table");
     }
 
-    /// Loads the file pName and returns the table: its size and cells, such as "2x2: a|b/c|d", then "!" after
-    /// a fault of the size and "?" if the file couldn't be read.
+    /// Loads the file pName and returns the table: its size and cells, such as "2x2: a|b/c|d". "!" at the end
+    /// stands for a wrong size, "?" for a file that couldn't be read.
     std::string Load(std::int16_t pFmt, const std::string &pName) {
         myTable.FileName(pName);
         myTable.Fmt(pFmt);
@@ -72,7 +72,7 @@ TEST_F(DatFile, WritesThreeFormsAndReadsThemBack) {
     for (const std::int16_t fmt : {csvh, csv, dat}) { // Blanks at the ends of a cell don't come back.
         EXPECT_EQ(Read(fmt, Save(fmt)), "2x5: a\"b|c,\n|\t|É𝄞\xFF\xC3|/||\"\"|\",\"|1") << fmt;
     }
-    // Neither does anything after a line break.
+    // The rows after a line break in a cell don't come back either.
     Fill({{"a"}, {"b\r\nc"}, {"d"}});
     EXPECT_EQ(Read(dat, Save(dat)), "3x1: a//");
 }

@@ -3,9 +3,10 @@
 #include <gtest/gtest.h>
 
 TEST(GetWords, SplitsALineByItsCommasAndQuotes) {
-    // Each word with a bar in front of it; a line with none gives none.
-    // Blanks at the ends go even from inside the quotes; a quote behind blanks goes on with the word. An LF
-    // is plain in quotes, a comma in and behind a word, a word before one.
+    // Each word of the result has a bar in front of it; a malformed line gives no words. A word loses the
+    // blanks at its ends, even inside quotes. A second quote after a closing one continues the word, even
+    // with blanks between them. An LF inside quotes is an ordinary character. In front of a word it belongs
+    // to the word; anywhere else it separates words as a comma does.
     // clang-format off
     const std::pair<const char *, const char *> lines[] = {
         {"a,b", "|a|b"},            {" a b , c ", "|a b|c"},    {"a,,b", "|a||b"},

@@ -2,8 +2,7 @@
 
 #include <QWindow>
 
-/// The font library keeps some of what it has read to its end, and Qt its keyboard; no leaks of this
-/// program's.
+/// The font library and Qt's keyboard never free some of their memory. These are not leaks of this program.
 extern "C" const char *__lsan_default_suppressions() { // NOLINT(bugprone-reserved-identifier)
     return "leak:libfontconfig\nleak:QInputDevice\n";
 }
@@ -18,7 +17,7 @@ int main(int pWordCount, char **pWords) {
 Bench::Bench() {
     form.ClientSize(6000, 3000);
     cmdCancel.Cancel(true);
-    cmdCancel.Move(0, 0, 840, 360); // To Qt what has no size takes no focus.
+    cmdCancel.Move(0, 0, 840, 360); // A view without a size takes no focus.
     list.Move(0, 0, 5700, 1700);
     list.ColumnHeaders.Add("Name");
     list.ColumnHeaders.Width(1, 3000);

@@ -1,4 +1,4 @@
-// Keys, and what the fields of the real window make of the texts that come in.
+// Keys, and what the fields of the real window do with the texts that they get.
 #include "desktop/KeyMap.h"
 #include "desktop/TextCodec.h"
 #include "tests/desktop/Bench.h"

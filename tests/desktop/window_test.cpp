@@ -149,7 +149,7 @@ TEST_F(Records, keepEachTextInItsCell) {
         list.ListItems(1).Text(pText);
         list.ColumnHeaders.Width(1, pWidth);
         Sync();
-        // All of it is drawn: a cell that isn't would leave its neighbour alone.
+        // Draws the whole table. If only this cell were drawn, its neighbour could not paint over it.
         const QRect cell = table->visualRect(table->model()->index(0, pColumn));
         return table->grab().toImage().copy(cell.translated(table->viewport()->pos()));
     };
@@ -197,7 +197,7 @@ TEST_F(Window, snapsBackToItsMinimumEachTime) {
     }
 }
 
-/// A window system may give a window its own idea of a size, whatever the window asks for.
+/// A window system may choose a window's size itself, whatever the window asks for.
 TEST_F(Window, doesNotFightAWindowSystemThatInsists) {
     const QSize own(300, 120);
     int asked = 0;

@@ -31,7 +31,7 @@ TEST(SpecColumns, AreTheRowsOfASpecificationOrItsFirstFault) {
     const std::string noNumber = ", which is not a number from -32768 to 32767.";
     const std::string nines(61, '9');
     const std::pair<std::string, std::string> cases[] = {
-        // Each number is read in its own way.
+        // The list, the tag and the mode each read their number in their own way.
         {"7,4\n,12.5,99999,-\nB,12.5,x,--\nC,1e1,-1,\"\"\nD,0,2.5,-\nE,1,2.5,list.txt\nF,0.5,0,-\nG,1,0,-\n",
          "|12|X=0/100 W=13/100|text\nB|12|X=12/100 W=13/100|-- 0\nC|10|X=24/100 W=10/100| -1\n"
          "D|0|X=34/100 W=0/100|text\nE|1|X=34/100 W=1/100|list.txt 2\n"

@@ -42,7 +42,7 @@ TEST(Opening, TakesANameThatIsNotThereForANewFile) {
     program.Start().Type("Name", "Ann").Press("Add").Pick(0).Open({}); // dismissed
     EXPECT_EQ(program.Rows(), "> Ann||\n");
     EXPECT_EQ(program.Script().Dialogs().back().pattern, "*.dat");
-    // After opening, no row is selected. The update then changes none, and the fields keep their texts.
+    // Opening leaves no row selected. The update then changes no row, and the fields keep their texts.
     const std::string name = program.Files().File("new.dat");
     EXPECT_EQ(program.Open(name).Press("Update").Window(),
               caption + "\nName[Ann] City[] Kind[]\nAdd (Move Up) (Delete) (Move Down) (Save As) Cancel\n");

@@ -73,6 +73,6 @@ TEST(MainForm, TakesListsFromTheCurrentFolderFirst) {
         }
         lists += box.AccessibleDescription() + ";";
     }
-    // A field takes any text while its list is empty, so nothing else is said of it.
+    // The second list is empty. Its field takes any text, so it has no description.
     EXPECT_EQ(lists, "Oslo, N // Rom\"e\nX/Oslo, N /one of the listed values;;");
 }

@@ -45,7 +45,7 @@ Add (Move Up) (Delete) (Move Down) Save As Cancel
 TEST(Records, KeepAFieldFromBeingLeftWithAnUnlistedText) {
     Program program;
     program.StartOn("2,3\nAnn,Oslo,Apple\nBob,Rome,none\n");
-    // The program checks what the user leaves, and not what a row brings.
+    // The program checks a field that the user leaves, and not a text that comes from a row.
     program.Pick(0).Type("Name", "Eve").Type("City", "Rom").Press("Update").Pick(1).Type("Kind", "apple");
     EXPECT_EQ(program.Fields(), "Name[Eve] City[Rom] Kind[Apple]");
     EXPECT_EQ(program.Rows(), "> Ann|Oslo|Apple\n  Bob|Rome|none\n");

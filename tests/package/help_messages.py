@@ -30,7 +30,7 @@ def texts(source):
     for line in source.read_text(encoding="utf-8").splitlines():
         if line.lstrip().startswith(("#include", "//")):
             continue
-        line = re.sub(r"'(\\.|[^'\\])'", "", line)  # a quotation mark as a character opens no text
+        line = re.sub(r"'(\\.|[^'\\])'", "", line)  # the character constant '"' begins no text
         for literal in re.findall(r'"((?:[^"\\]|\\.)*)"', line):
             text = plain(re.sub(r"\\[nr]", " ", literal).replace('\\"', '"'))
             if " " in text and text not in NO_MESSAGES:

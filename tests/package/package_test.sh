@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# tools/screen.py package_test.sh SOURCE_FOLDER SCRATCH_FOLDER: packs the sources, makes the Debian package out
-# of that very archive, asks the system's own checkers about it, unpacks it into an empty root, and starts the
-# program there. A missing checker fails the test.
+# tools/screen.py package_test.sh SOURCE_FOLDER SCRATCH_FOLDER: packs the sources and makes the Debian package from
+# that archive. Then it runs the system's own checkers on the package, unpacks it into an empty root, and starts
+# the program there. A missing checker fails the test.
 set -euo pipefail
 source=$(cd "$1" && pwd)
 scratch=$2
@@ -80,19 +80,19 @@ mkdir -m 700 home
 clean=(env -i PATH=/usr/bin:/bin LC_ALL=C.UTF-8 HOME="$scratch/home" DISPLAY="$DISPLAY" QT_QPA_PLATFORM=xcb
     DBUS_SESSION_BUS_ADDRESS=disabled:)
 
-# The title is the word's only once the specification has been read and the form built from it.
+# The window gets this title only after the program has read the specification and built the form from it.
 title="Time zones"
 (cd home && exec "${clean[@]}" "$root/usr/bin/NorvoEditDat" /t "$title" "$program_folder/timezones.dat" \
     2>../program.log) &
 pid=$!
 trap 'kill "$pid" || true; wait' EXIT
-# A search fails when a window goes away under it.
+# A search fails when a window closes during it.
 for ((try = 0; try < 60; ++try)); do
     windows=$(xdotool search --onlyvisible --all --pid "$pid" --name '.' 2>/dev/null) && break
     sleep 0.5
 done
 [ -n "$windows" ] || { cat program.log; fail "the program shows no window"; }
-# Nothing but the window itself: a message box would be a second one, or bear the same title.
+# There must be no other window: a message box would be a second one, or have the same title.
 [ "$(wc -l <<<"$windows")" -eq 1 ] || fail "the program shows more than one window"
 properties=$(xprop -id "$windows" WM_NAME _NET_WM_WINDOW_TYPE)
 [[ $properties == *"\"$title\""* && $properties != *_TYPE_DIALOG* ]] || fail "not the main window: $properties"

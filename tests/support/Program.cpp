@@ -28,8 +28,8 @@ std::string NameOf(const CommandButton &pButton) {
     return name;
 }
 
-/// The user selects what the field holds and types pText. A combo box gets it by one key, whose release may
-/// complete the text.
+/// The user selects what the field holds and types pText. In a combo box one key types all of it, and its
+/// release may complete the text.
 void TypeOver(TextField &pField, const std::string &pText) {
     if (auto *const box = dynamic_cast<ComboBox *>(&pField)) {
         box->UserPressesKey(pText.empty() ? keyCode::del : keyCode::letterA);

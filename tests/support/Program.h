@@ -1,7 +1,7 @@
 #pragma once
-/// Runs the whole program as a user does: it starts on a command line, takes the user's verbs one after
-/// another as a desktop passes them on, and shows its window as text. It has a fresh folder of its own, into
-/// which the test writes files. The script answers messages and file dialogs.
+/// Runs the whole program as a user does. It starts on a command line, takes the user's verbs one by one, as
+/// from a desktop, and shows its window as text. It has a fresh folder of its own, in which the test writes
+/// files. The script answers messages and file dialogs.
 #include "app/VersionRecord.h"
 #include "app/modMain.h"
 #include "platform/ListView.h"
@@ -34,7 +34,7 @@ public:
     /// Starts it on the file "data.dat", which gets this text. LF ends a line in pText, CR LF in the file.
     Program &StartOn(std::string_view pText) { return Start(myFiles.Write("data.dat", CrLf(pText))); }
 
-    // The verbs. One that needs the focus has no effect while a field refuses to lose it.
+    // The verbs. A verb that needs the focus has no effect while a field refuses to lose it.
     /// Replaces the text of the field under pHeading by pText (ASCII).
     Program &Type(const std::string &pHeading, const std::string &pText);
     /// Presses the button with that caption, or that tooltip if it shows a picture, of the window on top.

@@ -81,7 +81,7 @@ private:
     }
 
     Step Take(const std::string &pWhat) {
-        Step step{"nothing", {}, MessageAnswer::Cancel}; // The program does least after a Cancel.
+        Step step{"nothing", {}, MessageAnswer::Cancel}; // After Cancel the program does the least.
         if (!myScript.empty()) {
             step = myScript.front();
             myScript.pop_front();

@@ -57,7 +57,7 @@ public:
         return File(pName);
     }
 
-    /// All bytes of a file of the folder; a failure of the test and empty when it isn't there.
+    /// All bytes of a file in the folder. If it isn't there, the test fails and the text is empty.
     std::string Read(std::string_view pName) const {
         std::ifstream file(Native(File(pName)), std::ios::binary);
         EXPECT_TRUE(file.is_open()) << "can't read " << File(pName);

@@ -36,7 +36,7 @@ TEST(Files, DirFindsFilesAndNothingElse) {
     for (const auto &name : {"sub"s, "sub/"s, "none.dat"s, "sub/*.dat"s, "sub/élan.dat\0x"s}) {
         EXPECT_EQ(Dir(folder.File(name)), "") << name;
     }
-#ifndef _WIN32 // Elsewhere the backslash always separates folders.
+#ifndef _WIN32 // On Windows the backslash always separates folders.
     folder.Write("sub\\élan.dat", "as typed");
     EXPECT_EQ(LinesOf(folder.File("sub\\élan.dat")), Texts{"as typed"});
 #endif

@@ -14,7 +14,7 @@ TEST(Text, ComparisonsIgnoreCaseAndNothingElse) {
         EXPECT_TRUE(BeginsWithIgnoringCase(text, start)) << text << ": " << start;
         EXPECT_FALSE(EqualIgnoringCase(text, start)) << text << ": " << start;
     }
-    // The first byte of a character doesn't stand for it, nor does a stray byte with the character's number.
+    // The first byte of a character doesn't match it, nor does a stray byte with the character's number.
     for (const char *start : {"e", "élan v", "\xC3", "\xE9", "lan"}) {
         EXPECT_FALSE(BeginsWithIgnoringCase("Élan", start)) << start;
     }

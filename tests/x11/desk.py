@@ -44,7 +44,7 @@ class Desk:
         self.screen = Screen(os.environ, os.environ.get("NORVO_SESSION_MANAGER", "openbox"))
 
     def start(self, *words, **environment):
-        """Starts the editor on words. No setting of the machine's user reaches it: its home is empty."""
+        """Starts the editor on words. Its home is empty, so it sees none of the user's settings."""
         values = dict(os.environ, QT_QPA_PLATFORM="xcb", QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", HOME=self.folder,
                       XDG_CONFIG_HOME=self.folder / "config", **environment)
         with open(self.log, "ab") as log:
@@ -88,7 +88,8 @@ class Desk:
     def click(self, node, times=1):
         """Clicks the middle of an accessible object."""
         box = node.get_component_iface().get_extents(Atspi.CoordType.SCREEN)
-        # The server takes one after the other. To wait for the motion (--sync) would take long without any.
+        # The server handles these in order. Waiting for the motion (--sync) takes long if the pointer is there
+        # already.
         run("xdotool", "mousemove", str(box.x + box.width // 2), str(box.y + box.height // 2),
             "click", "--repeat", str(times), "--delay", "40", "1")
 
@@ -157,7 +158,7 @@ def main(session):
         # The accessibility bus has its socket there; two sessions at a time must not share one.
         os.environ["XDG_RUNTIME_DIR"] = tempfile.mkdtemp(prefix="norvo-bus-")
         os.execvp("dbus-run-session", ["dbus-run-session", "--", sys.executable, *sys.argv])
-    faulthandler.dump_traceback_later(4 * TIMEOUT)  # A call that never returns shows where it stands.
+    faulthandler.dump_traceback_later(4 * TIMEOUT)  # Shows where a call hangs.
     desk = Desk(sys.argv[1])
     try:
         session(desk, pathlib.Path(sys.argv[2]).resolve())

@@ -1,5 +1,6 @@
-"""The whole main job without the mouse, read all the while as a screen reader reads it: names, roles and states of
-the controls, the list's headings and cells, the texts of the boxes. Only the link in the About box needs a click."""
+"""The whole main job without the mouse. The session reads the window as a screen reader does: names, roles and states
+of the controls, the list's headings and cells, the texts of the boxes. Only the link in the About box needs a
+click."""
 
 import resource
 
@@ -12,7 +13,7 @@ def session(d, share):
     d.start(share / "NorvoEditDat.dat", sample)
     d.focus(TITLE)
 
-    # Every control has its name, its role, its description, and can be used or not.
+    # Every control has its name, role and description, and is enabled or disabled as it should be.
     listed = "one of the listed values"
     wanted = {("table", "Records", "", True), ("menu item", "Open", "", False), ("menu item", "Exit", "", True),
               *(("text", name, "", True) for name in ("Zone", "Position", "Remarks")),
@@ -28,8 +29,8 @@ def session(d, share):
     def enabled():
         return [name for name in ("Delete", "Move Up", "Move Down") if d.state(d.find("push button", name), "ENABLED")]
 
-    # Update, move and delete a record by the keys of the buttons. The fields that the update has emptied let
-    # nobody pass, so the way is around them.
+    # Update, move and delete a record with the buttons, by keys. The update empties the fields, and an empty combo
+    # field doesn't let the focus leave, so the keys avoid them.
     changed = 'Africa/Algiers",'
     for keys, actual, result in (
             ("", d.focused, "Add"),
@@ -43,7 +44,7 @@ def session(d, share):
             ("space", lambda: d.cell(1, 0), changed),
             ("Tab", d.focused, "Move Up"),
             ("space", lambda: d.cell(0, 0), changed),
-            ("", d.focused, "Records"),  # Its own button can't be pressed any more.
+            ("", d.focused, "Records"),  # The button Move Up is disabled now.
             ("", enabled, ["Delete", "Move Down"]),
             ("Down", lambda: d.text("Zone"), "Africa/Abidjan"),
             ("shift+Tab " * 4, d.focused, "Delete"),

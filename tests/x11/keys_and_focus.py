@@ -1,5 +1,5 @@
-"""Combo fields under real keys and real focus: completion on release, fast typing, and a text that isn't listed and
-keeps the user in its field. Then the ways out of the window."""
+"""Combo fields under real keys and real focus: completion when a key is released, fast typing, and a field that keeps
+the focus while its text isn't listed. Then the ways out of the window."""
 
 from desk import TITLE, main
 
@@ -60,7 +60,7 @@ def session(d, _share):
     d.click(fruit)
     d.expect(shown, ("z" * (2 + len(attempts)), ""), "a click into the refusing field itself")
 
-    # What is completed gets the capitals of the entry.
+    # A completed text has the capitals of the entry.
     d.key("ctrl+a")
     d.type("APPLE")
     d.expect(lambda: d.description(box), "one of the listed values", "the sign goes")
