@@ -1,10 +1,11 @@
-/// Reading and writing a table, in fresh memory. Compare
-///   Load with libcsv and getline, which also give cells to keep, and with the bare loop and the file read
-///   whole, which do less; Save with the two writers of libcsv and quoting in blocks, which also start from
-///   cells, and with a plain write of the finished bytes, which does less; AppOpen with Load, and AppSave
-///   with Save.
-/// All writers flush the file, which costs nothing in memory. NORVO_BENCH_FOLDER names a folder on a disk to
-/// measure that too.
+/// Reading and writing a table, in fresh memory. It compares
+///   Load with libcsv and getline, which also give cells to keep, and with the bare loop and reading the file
+///   whole, which do less;
+///   Save with libcsv's two writers and quoting in blocks, which also start from cells, and with a plain
+///   write of the finished bytes, which does less;
+///   AppOpen with Load, and AppSave with Save.
+/// All writers flush the file. In memory that costs nothing. To measure it too, name a folder on a disk in
+/// NORVO_BENCH_FOLDER.
 #include "bench/Editor.h"
 #include "bench/Passes.h"
 #include "bench/Peers.h"

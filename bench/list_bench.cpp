@@ -1,7 +1,7 @@
 /// What a user does on the list of records, 80 fields each: picking a row, and the buttons Add, Update,
 /// Delete, Move Up and Move Down. The time of an act must not depend on how long the list is. The rows are
-/// spread over the whole list and each is acted on many times, so that the lists are compared by the work and
-/// not by the processor's caches.
+/// spread over the whole list, and each is acted on many times. So the work decides the result, and not the
+/// processor's caches.
 #include "bench/Editor.h"
 #include "bench/Passes.h"
 

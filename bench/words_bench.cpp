@@ -1,5 +1,5 @@
-/// The words of one line, from 10 KB to 10 MB, of the kinds of lines that a file can bring. Fields and plain
-/// cells are the same cells, once in quotes and once without.
+/// The words of one line, from 10 KB to 10 MB, for each kind of line that a file can hold. "fields" and
+/// "plain" have the same cells, with and without quotes.
 #include "bench/Passes.h"
 #include "data/modGetWords.h"
 

@@ -1,7 +1,7 @@
-/// floor_window ROWS PERCENT[,PERCENT...]: the least that the toolkit takes for a window of the main window's
-/// shape. It has a label and a line edit for each column, with its width in percent, and under them a table
-/// that makes its texts when it paints them. It loads, keeps and handles nothing, so whatever the program
-/// takes beyond this is the program's own.
+/// floor_window ROWS PERCENT[,PERCENT...]: a window of the main window's shape that does the least that the
+/// toolkit can do. It has a label and a line edit for each column, with its width in percent, and under them
+/// a table that makes its texts when it paints them. It loads, keeps and handles nothing, so whatever the
+/// program takes beyond this is the program's own.
 #include <QAbstractTableModel>
 #include <QApplication>
 #include <QHeaderView>

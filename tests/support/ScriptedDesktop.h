@@ -70,7 +70,7 @@ private:
     static constexpr const char *toSave = "file dialog to save";
 
     struct Step {
-        std::string what; ///< the message or dialog in words, by which it is compared
+        std::string what; ///< the message or dialog in words, which are compared
         std::optional<std::string> path;
         MessageAnswer answer = MessageAnswer::Ok;
     };
