@@ -13,4 +13,5 @@ set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 
 # Without a screen, programs for Windows run under Wine.
-set(CMAKE_CROSSCOMPILING_EMULATOR /usr/lib/wine/wine64)
+get_filename_component(top "${CMAKE_CURRENT_LIST_DIR}" DIRECTORY)
+set(CMAKE_CROSSCOMPILING_EMULATOR "${top}/tools/wine")

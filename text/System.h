@@ -69,7 +69,7 @@ private:
     bool myWasEmptied = false;
 };
 
-/// pCharacter in lower case by the system's rule for Unicode, the same in every locale.
+/// pCharacter in lower case by Unicode's simple mappings, the same on all systems and in every locale.
 char32_t LowerCase(char32_t pCharacter);
 
 /// The full path of the running program's file, with links followed; empty if the system won't tell.

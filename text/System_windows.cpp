@@ -1,5 +1,7 @@
 #include "text/System.h"
 
+#include "text/CaseTable.h"
+
 #include <algorithm>
 #include <limits>
 #include <utility>
@@ -217,12 +219,7 @@ void FileWriter::Close() {
 }
 
 char32_t LowerCase(char32_t pCharacter) {
-    if (pCharacter == 0 || pCharacter > 0xFFFF) {
-        return pCharacter; // The system's rule covers single UTF-16 units only.
-    }
-    wchar_t text[] = {static_cast<wchar_t>(pCharacter), L'\0'};
-    CharLowerW(text);
-    return static_cast<char32_t>(text[0]);
+    return LowerCaseByTable(pCharacter);
 }
 
 std::string ProgramFile() {

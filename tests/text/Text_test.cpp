@@ -1,6 +1,15 @@
+#include "text/CaseTable.h"
+#include "text/System.h"
 #include "text/Text.h"
 
 #include <gtest/gtest.h>
+
+TEST(Text, HasTheSameLowerCaseOnAllSystems) {
+    constexpr char32_t beyondUnicode = 0x110000;
+    for (char32_t character = 1; character < beyondUnicode; ++character) {
+        ASSERT_EQ(LowerCaseByTable(character), os::LowerCase(character)) << static_cast<unsigned>(character);
+    }
+}
 
 TEST(Text, ComparisonsIgnoreCaseAndNothingElse) {
     for (const auto &[text, lower] : {std::pair("Az[09] ÉLAN ß ЖУК", "az[09] élan ß жук"),
