@@ -97,7 +97,6 @@ void clsDatFile::Clear() {
 void clsDatFile::Load() {
     myFault.clear();
     myWasRead = true;
-    myReachedEnd = false;
     const bool isDone = HasMemoryFor([this] {
         const Headroom headroom;
         switch (myFmt) {

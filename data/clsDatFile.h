@@ -5,7 +5,6 @@
 #include "text/TextRow.h"
 
 #include <cstdint>
-#include <functional>
 #include <initializer_list>
 #include <string>
 #include <string_view>
@@ -73,11 +72,6 @@ public:
     /// message, when no file name is set or when the first row of a CSV file has no words.
     void Load();
 
-    /// Calls pWatch for each line that Load takes for a row: with the line, and its words. If Load stops at a
-    /// line, that is the last one.
-    using LineWatch = std::function<void(std::string_view pLine, const TextRow &pWords)>;
-    void Watch(LineWatch pWatch) { myWatch = std::move(pWatch); }
-
     /// Writes the table to the file. Does nothing if no file name is set.
     void Save();
 
@@ -88,9 +82,6 @@ public:
     /// number of records: the file holds fewer than its first line announces, or that line announces no
     /// number that can be used.
     bool WasRead() const { return myWasRead; }
-    /// Whether it took all lines of the file for rows, and left none after them.
-    bool ReachedEnd() const { return myReachedEnd; }
-
     /// Leaves the file unread after all, for want of memory: there was none to take over what it holds. Needs
     /// none itself.
     void GiveUpLoading();
@@ -103,7 +94,6 @@ private:
 
     void StopWithoutFileName() const;
     bool TakeFaultOf(const TextInput &pFile);
-    TextRow TakeWords(TextInput &pFile, TextRowRoom &pRoom) const;
     void TakeSizeFrom(TextInput &pFile);
     void TakeAnnouncedRowsFrom(TextInput &pFile);
     void TakeRowsUpToARaggedOne(TextInput &pFile);
@@ -128,8 +118,6 @@ private:
     /// announced size costs nothing. myStoredCols is the width of the storage.
     std::vector<TextRow> myData;
     std::int16_t myStoredCols = 0;
-    LineWatch myWatch;
     std::string myFault;
     bool myWasRead = true;
-    bool myReachedEnd = false;
 };

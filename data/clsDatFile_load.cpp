@@ -59,17 +59,7 @@ void clsDatFile::LoadDat() {
     TakeSizeFrom(file);
     file.LineInput(); // The first line may hold more than the two numbers.
     TakeAnnouncedRowsFrom(file);
-    myReachedEnd = file.AtEnd();
     TakeFaultOf(file);
-}
-
-TextRow clsDatFile::TakeWords(TextInput &pFile, TextRowRoom &pRoom) const {
-    const std::string_view line = pFile.LineInput();
-    TextRow words = modGetWords::GetWords(line, pRoom);
-    if (myWatch) {
-        myWatch(line, words);
-    }
-    return words;
 }
 
 void clsDatFile::TakeAnnouncedRowsFrom(TextInput &pFile) {
@@ -82,7 +72,7 @@ void clsDatFile::TakeAnnouncedRowsFrom(TextInput &pFile) {
             myData.resize(static_cast<std::size_t>(row));
             return;
         }
-        TextRow words = TakeWords(pFile, room);
+        TextRow words = modGetWords::GetWords(pFile.LineInput(), room);
         if (words.Count() != myCols) {
             return; // The remaining rows stay empty, and myRows stays as announced.
         }
@@ -94,7 +84,7 @@ void clsDatFile::TakeRowsUpToARaggedOne(TextInput &pFile) {
     TextRowRoom room;
     const int cols = myData.front().Count();
     while (!pFile.AtEnd() && std::cmp_less_equal(myData.size(), mostRows)) {
-        TextRow words = TakeWords(pFile, room);
+        TextRow words = modGetWords::GetWords(pFile.LineInput(), room);
         if (words.Count() != cols) {
             break; // The table ends before this line.
         }
@@ -113,8 +103,7 @@ void clsDatFile::LoadCsv(bool pHasHeaders) {
         TakeFaultOf(file);
         return;
     }
-    TextRowRoom room;
-    const TextRow first = TakeWords(file, room);
+    const TextRow first = modGetWords::GetWords(file.LineInput());
     if (TakeFaultOf(file)) {
         return;
     }
@@ -127,7 +116,6 @@ void clsDatFile::LoadCsv(bool pHasHeaders) {
     myStoredCols = myCols;
     myData.assign(1, first);
     TakeRowsUpToARaggedOne(file);
-    myReachedEnd = file.AtEnd();
     if (TakeFaultOf(file)) {
         return;
     }
