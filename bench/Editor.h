@@ -1,6 +1,6 @@
 #pragma once
 /// The editor without a screen: the main window, loaded for the limit table and ready for the acts of a user.
-#include "bench/NoDesktop.h"
+#include "check/NoDesktop.h"
 #include "bench/Tables.h"
 #include "editor/frmMain.h"
 #include "help/frmAbout.h"

@@ -3,7 +3,7 @@
 /// implementations of the rules for lines and numbers, to compare the program with.
 ///
 /// A target is a source file *_fuzz.cpp that defines RequireLaws. It finds broken laws as well as crashes.
-#include "bench/NoDesktop.h"
+#include "check/NoDesktop.h"
 #include "data/clsDatFile.h"
 #include "platform/Runtime.h"
 

@@ -1,5 +1,6 @@
 #pragma once
-/// A desktop without a screen, for benchmarks and fuzzers. It shows nothing and dismisses every dialog.
+/// A desktop without a screen, for the checker, benchmarks and fuzzers. It shows nothing and dismisses every
+/// dialog.
 #include "platform/Desktop.h"
 
 #include <stdexcept>

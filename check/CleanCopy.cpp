@@ -1,0 +1,191 @@
+#include "check/CleanCopy.h"
+
+#include "check/MeantCells.h"
+#include "check/NoDesktop.h"
+#include "data/clsDatFile.h"
+#include "data/modGetWords.h"
+#include "platform/Runtime.h"
+#include "text/System.h"
+#include "text/Text.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <utility>
+
+namespace {
+
+/// pCell as the editor can keep it: a line break would end its line, and blanks at its ends would go.
+std::string Kept(const std::string &pCell) {
+    return std::string(Trim(WithoutNewLineBreaks("", pCell)));
+}
+
+bool HasLineBreak(const std::string &pCell) {
+    return pCell.find_first_of("\r\n") != std::string::npos;
+}
+
+std::string ActText(CleanCopy::Act pAct, std::size_t pLines) {
+    const std::string lines = Counted(pLines, "line");
+    switch (pAct) {
+    case CleanCopy::Act::DropByteOrderMark:
+        return "the byte-order mark is left out";
+    case CleanCopy::Act::EndLines:
+        return lines + " got the line end CR LF";
+    case CleanCopy::Act::Separate:
+        return lines + " got commas between the fields";
+    case CleanCopy::Act::Reorder:
+        return "the columns are put into the specification's order, in " + lines;
+    case CleanCopy::Act::CountRecords:
+        return "the numbers of records and columns are counted";
+    case CleanCopy::Act::LeaveOutBlankLines:
+        return lines + " without text left out";
+    case CleanCopy::Act::Fill:
+        return lines + " with too few fields filled with empty ones";
+    case CleanCopy::Act::DropEmptyFields:
+        return lines + " with too many fields lost empty ones at the end";
+    case CleanCopy::Act::JoinLines:
+        return "line breaks inside cells made blanks, in " + lines;
+    default:
+        return "blanks at the ends of cells left out, in " + lines;
+    }
+}
+
+} // namespace
+
+void CleanCopy::Note(Act pAct, std::size_t pLine, std::size_t pLines) {
+    Done &done = myDone[static_cast<std::size_t>(pAct)];
+    done.firstLine = done.lines == 0 ? pLine : done.firstLine;
+    done.lines += pLines;
+}
+
+void CleanCopy::Refuse(std::size_t pLine, const std::string &pWhy) {
+    if (myFault.empty()) {
+        myFault = "line " + std::to_string(pLine) + ": " + pWhy;
+    }
+}
+
+/// Brings pCells into the form and the number that the copy has. False when it can't.
+bool CleanCopy::MakeFit(std::size_t pLine, std::vector<std::string> &pCells) {
+    if (std::any_of(pCells.begin(), pCells.end(), HasLineBreak)) {
+        Note(Act::JoinLines, pLine);
+    }
+    std::transform(pCells.begin(), pCells.end(), pCells.begin(), Kept);
+    const std::size_t fields = pCells.size();
+    if (fields < myCols) {
+        Note(Act::Fill, pLine);
+    } else if (fields > myCols) {
+        const bool areEmpty = std::all_of(pCells.begin() + static_cast<std::ptrdiff_t>(myCols), pCells.end(),
+                                          [](const std::string &pCell) { return pCell.empty(); });
+        if (!areEmpty) {
+            Refuse(pLine, Counted(fields, "field") + ", not " + std::to_string(myCols) +
+                              ", and those at the end are not empty");
+            return false;
+        }
+        Note(Act::DropEmptyFields, pLine);
+    }
+    pCells.resize(myCols);
+    return true;
+}
+
+bool CleanCopy::HasRoom(std::size_t pLine) {
+    if (std::cmp_equal(myRows.size(), clsDatFile::mostRows)) {
+        Refuse(pLine, "a table holds at most " + std::to_string(clsDatFile::mostRows) + " records");
+    }
+    if (std::cmp_greater(myCols, modGetWords::mostWords)) {
+        Refuse(pLine, "a table holds at most " + std::to_string(modGetWords::mostWords) + " columns");
+    }
+    return myFault.empty();
+}
+
+void CleanCopy::Header(std::size_t pLine, const MeantCells &pTitles) {
+    myTitles = pTitles.All();
+    myCols = myWanted.empty() ? myTitles.size() : myWanted.size();
+    if (pTitles.HasBlanksAtEnds()) {
+        Note(Act::DropBlanks, pLine);
+    }
+    if (!MakeFit(pLine, myTitles)) {
+        return;
+    }
+    myOrder = OrderOf(myWanted, myTitles);
+    if (!myOrder.empty()) {
+        myTitles = TitlesOf(myWanted);
+        Note(Act::Reorder, pLine);
+    }
+}
+
+TextRow CleanCopy::InOrder(const std::vector<std::string> &pCells) const {
+    std::vector<std::string> cells;
+    for (const std::size_t from : myOrder) {
+        cells.push_back(pCells[from]);
+    }
+    return TextRow(myOrder.empty() ? pCells : cells);
+}
+
+void CleanCopy::Record(std::size_t pLine, const TextRow &pWords) {
+    if (!HasRoom(pLine)) {
+        return;
+    }
+    if (myOrder.empty()) {
+        myRows.push_back(pWords); // The very block that the editor's reader made.
+        return;
+    }
+    std::vector<std::string> cells;
+    for (int place = 1; place <= pWords.Count(); ++place) {
+        cells.emplace_back(pWords(place));
+    }
+    Note(Act::Reorder, pLine);
+    myRows.push_back(InOrder(cells));
+}
+
+void CleanCopy::Record(std::size_t pLine, const MeantCells &pCells) {
+    std::vector<std::string> cells = pCells.All();
+    if (!HasRoom(pLine) || !MakeFit(pLine, cells)) {
+        return;
+    }
+    if (!myOrder.empty()) {
+        Note(Act::Reorder, pLine);
+    }
+    myRows.push_back(InOrder(cells));
+}
+
+void CleanCopy::Write(const std::string &pFile) {
+    if (myFault.empty() && myRows.empty()) {
+        myFault = "there are no records";
+    }
+    // "x" never takes a file that is there, not even one that appears at this very moment.
+    std::FILE *const file = myFault.empty() ? std::fopen(pFile.c_str(), "wbx") : nullptr;
+    if (file == nullptr) {
+        myFault = !myFault.empty() ? myFault : "a file of that name can't be made, or is there already";
+        return;
+    }
+    std::fclose(file);
+    NoDesktop desktop;
+    const Runtime runtime(desktop, {}, "");
+    clsDatFile table(runtime);
+    table.FileName(pFile);
+    table.Fmt(myFmt);
+    table.Headers(myTitles);
+    table.Rows(static_cast<std::int16_t>(myRows.size()));
+    table.Cols(static_cast<std::int16_t>(myCols));
+    table.Clear();
+    for (std::int16_t row = 0; row < table.Rows(); ++row) {
+        table.Row(row, myRows[static_cast<std::size_t>(row)]);
+    }
+    table.Save();
+    if (!table.Fault().empty()) {
+        TakeBack(pFile, table.Fault());
+    }
+}
+
+void CleanCopy::TakeBack(const std::string &pFile, const std::string &pWhy) {
+    myFault = pWhy;
+    std::remove(pFile.c_str());
+}
+
+void CleanCopy::Report(Findings &pFindings) const {
+    for (std::size_t act = 0; act < myDone.size(); ++act) {
+        if (const Done &done = myDone[act]; done.lines > 0) {
+            pFindings.Add(Kind::Note, done.firstLine, Sort::Copy,
+                          "in the copy " + ActText(static_cast<Act>(act), done.lines));
+        }
+    }
+}

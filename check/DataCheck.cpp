@@ -1,0 +1,261 @@
+// The frame of the check: loading, the first line, and what can be said only at the end.
+#include "check/DataCheck.h"
+
+#include "text/Numbers.h"
+#include "text/Text.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+
+/// One number of the first line of a .dat file; 0 if it is none.
+std::size_t SizeNumber(std::string_view pText) {
+    const std::int16_t number = WholeTextInteger(pText).value_or(0);
+    return number > 0 ? static_cast<std::size_t>(number) : 0;
+}
+
+bool IsByteOrderMark(std::string_view pText) {
+    return pText.starts_with(byteOrderMark);
+}
+
+/// pFault without the file's name, which stands in front of each finding.
+std::string WithoutName(const std::string &pFault, const std::string &pFile) {
+    const std::string name = "File " + pFile;
+    return pFault.starts_with(name) ? "the file" + pFault.substr(name.size()) : pFault;
+}
+
+} // namespace
+
+DataCheck::DataCheck(std::int16_t pFmt, const WantedColumns &pWanted, Findings &pFindings, CleanCopy *pCopy)
+    : myFmt(pFmt), myWanted(pWanted), myFindings(pFindings), myCopy(pCopy), myLines(pFindings.File()),
+      myUnlisted(pWanted.size()) {}
+
+void DataCheck::Run() {
+    LoadAsEditor();
+    if (myFmt == clsDatFile::fmtDat) {
+        TakeSizeLine();
+    } else if (myFmt == clsDatFile::fmtCsvWithHeaders) {
+        TakeHeader();
+    }
+    while (myLines.Next()) {
+        TakeLine();
+    }
+    if (!Fault().empty()) {
+        return;
+    }
+    ReportLineEnds();
+    ReportSize();
+    ReportStop();
+    ReportUnlisted();
+    RequireAllShown();
+    if (myCopy != nullptr && myBlanks > 0) {
+        myCopy->Note(CleanCopy::Act::LeaveOutBlankLines, 1, myBlanks);
+    }
+    if (myCopy != nullptr && myLfEnds > 0) {
+        myCopy->Note(CleanCopy::Act::EndLines, myFirstLf, myLfEnds);
+    }
+}
+
+void DataCheck::LoadAsEditor() {
+    myTable.FileName(myFindings.File());
+    myTable.Fmt(myFmt);
+    myTable.Headers(TitlesOf(myWanted));
+    try {
+        myTable.Load();
+    } catch (const NoDesktop::ProgramEnded &) {
+        myEndsProgram = true;
+        return;
+    }
+    const auto rows = static_cast<std::int16_t>(myTable.WasRead() && myTable.Cols() > 0 ? myTable.Rows() : 0);
+    // A row that the .dat reader did not get to has no cells.
+    std::int16_t row = 0;
+    while (row < rows && myTable.Row(row).Count() == myTable.Cols()) {
+        ++row;
+    }
+    myRowsRead = static_cast<std::size_t>(row);
+}
+
+std::size_t DataCheck::Shown() const {
+    const bool isRefused = !myWanted.empty() && std::cmp_not_equal(myTable.Cols(), myWanted.size());
+    return myEndsProgram || isRefused ? 0 : myRowsRead;
+}
+
+/// The text of pLine. Reports a byte-order mark in front of it.
+std::string_view DataCheck::WithoutByteOrderMark(const MeantLine &pLine) {
+    if (pLine.number != 1 || !IsByteOrderMark(pLine.text)) {
+        return pLine.text;
+    }
+    const bool isInHeader = myFmt == clsDatFile::fmtCsvWithHeaders;
+    myFindings.Add(Kind::Changed, 1, Sort::ByteOrderMark,
+                   isInHeader
+                       ? "a byte-order mark stands before the first title; it is lost with the header line"
+                       : "a byte-order mark stands before the first cell; the editor takes it for text");
+    if (myCopy != nullptr) {
+        myCopy->Note(CleanCopy::Act::DropByteOrderMark, 1);
+    }
+    return pLine.text.substr(byteOrderMark.size());
+}
+
+void DataCheck::TakeSizeLine() {
+    if (!myLines.Next()) {
+        return;
+    }
+    const MeantLine &line = myLines.Line();
+    const std::string_view text = WithoutByteOrderMark(line);
+    CountLineEnd(line);
+    const std::size_t comma = text.find(',');
+    if (line.endsInLf && comma != std::string_view::npos) {
+        // The editor makes nothing of it. As it was meant, it may still be right.
+        mySize = {SizeNumber(text.substr(0, comma)), SizeNumber(text.substr(comma + 1))};
+    } else if (myTable.Cols() > 0 && myTable.Rows() >= 0) {
+        mySize = {static_cast<std::size_t>(myTable.Rows()), static_cast<std::size_t>(myTable.Cols())};
+    }
+}
+
+void DataCheck::TakeHeader() {
+    if (!myLines.Next()) {
+        return;
+    }
+    const std::string_view text = WithoutByteOrderMark(myLines.Line());
+    mySeparator = SeparatorOf(text, myWanted.size());
+    myCells.Begin(mySeparator);
+    myCells.Take(text);
+    myIsUnclosed = myCells.IsOpen() && !myLines.Join(myCells);
+    myCells.End();
+    const MeantLine &line = myLines.Line();
+    CountLineEnd(line);
+    LookAtBytes(line);
+    if (line.text.find('\r') != std::string_view::npos) {
+        myFindings.Add(
+            Kind::Lost, line.number, Sort::CrInQuotes,
+            "a line end inside quotes ends the header line, so its rest is taken for the first record");
+        myIsReading = false;
+    }
+    if (mySeparator != ',') {
+        myFindings.Add(Kind::Lost, line.number, Sort::Separator,
+                       std::string("the fields are separated by ") +
+                           (mySeparator == ';' ? "semicolons" : "tabs") +
+                           ", which the editor takes for text");
+    }
+    myTitles = myCells.All().size();
+    if (!myWanted.empty()) {
+        CompareTitles(line);
+    }
+    if (myCopy != nullptr) {
+        if (myIsUnclosed || myCells.HasTextAfterQuote()) {
+            myCopy->Refuse(line.number, "the quotes of the titles don't match");
+        }
+        myCopy->Header(line.number, myCells);
+    }
+}
+
+void DataCheck::CompareTitles(const MeantLine &pLine) {
+    const std::vector<std::string> wanted = TitlesOf(myWanted);
+    std::vector<std::string> titles;
+    for (const std::string &title : myCells.All()) {
+        titles.emplace_back(Trim(title));
+    }
+    if (titles == wanted) {
+        return;
+    }
+    myOrder = OrderOf(myWanted, titles);
+    if (!myOrder.empty()) {
+        myFindings.Add(
+            Kind::Changed, pLine.number, Sort::Titles,
+            "the titles are the specification's in another order; the specification's order would be "
+            "written over columns that stay where they are");
+        return;
+    }
+    titles.resize(std::max(titles.size(), wanted.size()));
+    for (std::size_t col = 0; col < titles.size(); ++col) {
+        const std::string other = col < wanted.size() ? Quoted(wanted[col]) : "none";
+        if (col >= wanted.size() || titles[col] != wanted[col]) {
+            myFindings.Add(Kind::Changed, pLine.number, Sort::Titles,
+                           "the title of column " + std::to_string(col + 1) + " is " + Quoted(titles[col]) +
+                               ", and the specification's, which would be written, is " + other);
+        }
+    }
+}
+
+void DataCheck::ReportLineEnds() {
+    if (myLfEnds == 0) {
+        return;
+    }
+    const bool areAll = myLfEnds == myLines.Count() || (myLfEnds + 1 == myLines.Count() && !myLastEndsInLf);
+    const std::string ends = areAll
+                                 ? "LF alone ends the lines, all " + std::to_string(myLfEnds)
+                                 : "LF alone ends this line" +
+                                       (myLfEnds > 1 ? " and " + std::to_string(myLfEnds - 1) + " more" : "");
+    myFindings.Add(Kind::Lost, areAll ? 1 : myFirstLf, Sort::LineEnds,
+                   ends + ", so the editor reads each of them and the next as one line");
+}
+
+void DataCheck::ReportSize() {
+    if (myFmt != clsDatFile::fmtDat) {
+        if (myFirstTooMany > 0) {
+            myFindings.Add(Kind::Lost, myFirstTooMany, Sort::Limit,
+                           "a table holds at most " + std::to_string(clsDatFile::mostRows) +
+                               " records, and this is one more, so the editor reads none");
+        }
+        return;
+    }
+    const std::string announces = "the first line announces " + Counted(mySize.rows, "record");
+    if (myLfEnds == 0 && myTable.WasRead() && !myTable.Fault().empty()) {
+        myFindings.Add(Kind::Lost, 1, Sort::Size, WithoutName(myTable.Fault(), myFindings.File()));
+    } else if (mySize.cols == 0) {
+        myFindings.Add(
+            Kind::Lost, 1, Sort::Size,
+            "the first line isn't two numbers, of the records and of the columns, so the editor refuses "
+            "the file (a CSV file needs /csv or /csvh)");
+    } else if (mySize.rows < myRecords) {
+        myFindings.Add(Kind::Lost, myFirstUnannounced, Sort::Size,
+                       announces + ", so from here on " + Counted(myRecords - mySize.rows, "line") +
+                           " are not read");
+    } else if (mySize.rows > myRecords) {
+        myFindings.Add(Kind::Lost, 1, Sort::Size, announces + ", but there are " + std::to_string(myRecords));
+    }
+    if (!myWanted.empty() && mySize.cols > 0 && mySize.cols != myWanted.size()) {
+        myFindings.Add(Kind::Lost, 1, Sort::Columns,
+                       "the first line announces " + Counted(mySize.cols, "column") +
+                           " and the specification has " + std::to_string(myWanted.size()) +
+                           ", so the editor refuses the file");
+    }
+    if (myCopy != nullptr && (mySize.rows != myRecords || mySize.cols != myCopy->Cols())) {
+        myCopy->Note(CleanCopy::Act::CountRecords, 1);
+    }
+}
+
+void DataCheck::ReportStop() {
+    if (myStop) {
+        const std::size_t lines = myRecords - myStop->recordsBefore;
+        myFindings.Add(Kind::Lost, myStop->line, myStop->sort,
+                       myStop->why + ", so the table ends before it; " + Counted(lines, "line") +
+                           (lines == 1 ? " is" : " are") + " not read");
+    }
+}
+
+void DataCheck::ReportUnlisted() {
+    for (std::size_t col = 0; col < myUnlisted.size(); ++col) {
+        for (const auto &[value, found] : myUnlisted[col]) {
+            myFindings.Add(Kind::Note, found.line, Sort::NotListed,
+                           Quoted(myWanted[col].title) + " has " + Quoted(value) +
+                               ", which isn't in its list, in " + Counted(found.records, "record"));
+        }
+    }
+}
+
+/// Whatever the walk over the lines has missed: the editor has the last word.
+void DataCheck::RequireAllShown() {
+    const bool isWhole = Shown() == myRecords && !myEndsProgram && myTable.Fault().empty();
+    if (isWhole || myFindings.Of(Kind::Lost) > 0) {
+        return;
+    }
+    const std::string fault = WithoutName(myTable.Fault(), myFindings.File());
+    const std::string ends = "the editor ends with the message " + myDesktop.LastMessage();
+    myFindings.Add(Kind::Lost, 1, Sort::FirstLine,
+                   myEndsProgram    ? ends
+                   : !fault.empty() ? fault
+                                    : "the editor reads these lines otherwise");
+}

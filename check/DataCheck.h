@@ -1,0 +1,112 @@
+#pragma once
+/// Checks a table file: what of it the editor would not show, would change or would refuse, line by line. The
+/// editor's own table loads the file first, and that decides what the editor sees. Then a walk over the lines
+/// as they were meant finds the reasons; each line that the editor doesn't read is split by the same
+/// function.
+#include "check/CleanCopy.h"
+#include "check/Findings.h"
+#include "check/MeantCells.h"
+#include "check/MeantLines.h"
+#include "check/NoDesktop.h"
+#include "check/WantedColumns.h"
+#include "data/clsDatFile.h"
+#include "platform/Runtime.h"
+
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <string>
+#include <unordered_map>
+
+class DataCheck {
+public:
+    /// Checks the file that pFindings names, of the form pFmt, one of clsDatFile's. pCopy, which may be null,
+    /// is given the records.
+    DataCheck(std::int16_t pFmt, const WantedColumns &pWanted, Findings &pFindings,
+              CleanCopy *pCopy = nullptr);
+
+    void Run();
+
+    /// Why the file can't be read. Empty if it can.
+    const std::string &Fault() const { return myLines.Fault(); }
+    /// How many records the file was meant to have.
+    std::size_t Records() const { return myRecords; }
+    /// How many of them the editor shows.
+    std::size_t Shown() const;
+    /// The table as the editor has loaded it.
+    const clsDatFile &Table() const { return myTable; }
+
+private:
+    /// The two numbers that the first line of a .dat file announces; 0 for what isn't one.
+    struct Size {
+        std::size_t rows = 0;
+        std::size_t cols = 0;
+    };
+    struct Unlisted {
+        std::size_t line = 0;
+        std::size_t records = 0;
+    };
+    struct Stop {
+        std::size_t line;
+        Sort sort;
+        std::string why;
+        std::size_t recordsBefore;
+    };
+
+    void LoadAsEditor();
+    std::string_view WithoutByteOrderMark(const MeantLine &pLine);
+    void TakeSizeLine();
+    void TakeHeader();
+    void CompareTitles(const MeantLine &pLine);
+    void ReportSize();
+    void ReportLineEnds();
+    void ReportStop();
+    void ReportUnlisted();
+    void RequireAllShown();
+
+    void TakeLine();
+    TextRow WordsOf(const MeantLine &pLine);
+    TextRow TakeCells(TextRow pWords);
+    void SettleCols(const TextRow &pWords);
+    void CountLineEnd(const MeantLine &pLine);
+    void ReportBlankLines();
+    void Judge(const TextRow &pWords);
+    void EndTable(std::size_t pLine, Sort pSort, const std::string &pWhy);
+    void LookAtBytes(const MeantLine &pLine);
+    void LookAtBlanks(const MeantLine &pLine);
+    void LookUp(const TextRow &pWords);
+    void GiveToCopy(const TextRow &pWords);
+
+    std::int16_t myFmt;
+    const WantedColumns &myWanted;
+    Findings &myFindings;
+    CleanCopy *myCopy;
+
+    NoDesktop myDesktop;
+    Runtime myRuntime{myDesktop, {}, ""};
+    clsDatFile myTable{myRuntime};
+    bool myEndsProgram = false;
+    std::size_t myRowsRead = 0;
+
+    MeantLines myLines;
+    MeantCells myCells;
+    bool myHasCells = false;   ///< myCells holds the current line's
+    bool myIsUnclosed = false; ///< a quote of the current line never closes
+    TextRowRoom myRoom;
+    char mySeparator = '\0';
+    Size mySize;
+    std::size_t myTitles = 0;         ///< in the header line
+    std::vector<std::size_t> myOrder; ///< where the wanted columns are, when the titles are in another order
+    std::size_t myCols = 0;           ///< fields that a line should have
+    std::size_t myRecords = 0;
+    std::size_t myFirstUnannounced = 0; ///< the line of the first record beyond the announced ones
+    std::size_t myFirstTooMany = 0;     ///< the line of the first record beyond those that a table holds
+    bool myIsReading = true;            ///< the editor has read all lines so far as they were meant
+    std::optional<Stop> myStop;         ///< where reading ended
+    std::size_t myFirstBlank = 0;       ///< the line at which blank ones began; 0 when the last wasn't blank
+    std::size_t myBlanks = 0;
+    std::size_t myFirstLf = 0;
+    std::size_t myLfEnds = 0;
+    bool myLastEndsInLf = false;
+    std::vector<std::map<std::string, Unlisted>> myUnlisted; ///< by column and value
+};

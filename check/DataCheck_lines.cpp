@@ -1,0 +1,240 @@
+// The check of one line after the other.
+#include "check/DataCheck.h"
+
+#include "data/modGetWords.h"
+#include "text/Text.h"
+
+#include <algorithm>
+
+namespace {
+
+/// The words why the editor sees no fields in pLine, and the sort of that.
+std::pair<Sort, std::string> WhyNoWords(std::string_view pLine) {
+    MeantCells cells;
+    cells.Begin(',');
+    cells.Take(pLine);
+    if (cells.IsOpen()) {
+        return {Sort::OpenQuote, "a quote is left open"};
+    }
+    if (cells.HasTextAfterQuote()) {
+        return {Sort::TextAfterQuote, "text follows a closing quote"};
+    }
+    return {Sort::CommaAtEnd, "the line ends in a comma"};
+}
+
+bool IsUtf8(std::string_view pText) {
+    for (std::size_t at = 0; at < pText.size();) {
+        const CodePoint character = CodePointAt(pText, at);
+        if (!character.isValid) {
+            return false;
+        }
+        at += character.length;
+    }
+    return true;
+}
+
+/// Whether a blank of pLine stands where it could be at the end of a cell.
+bool MayHaveBlanksAtEnds(std::string_view pLine) {
+    const auto isBorder = [](char pCharacter) { return pCharacter == ',' || pCharacter == '"'; };
+    std::size_t at = pLine.find(' ');
+    while (at != std::string_view::npos) {
+        if (at == 0 || at + 1 == pLine.size() || isBorder(pLine[at - 1]) || isBorder(pLine[at + 1])) {
+            return true;
+        }
+        at = pLine.find(' ', at + 1);
+    }
+    return false;
+}
+
+} // namespace
+
+/// The words that the editor finds in pLine, or would find if its ends were right.
+TextRow DataCheck::WordsOf(const MeantLine &pLine) {
+    const std::size_t linesBefore = myFmt == clsDatFile::fmtCsv ? 0 : 1;
+    if (pLine.editorLine && *pLine.editorLine >= linesBefore &&
+        *pLine.editorLine - linesBefore < myRowsRead) {
+        return myTable.Row(static_cast<std::int16_t>(*pLine.editorLine - linesBefore));
+    }
+    return modGetWords::GetWords(pLine.text, myRoom);
+}
+
+void DataCheck::TakeLine() {
+    const MeantLine &line = myLines.Line();
+    if (Trim(line.text).empty()) {
+        CountLineEnd(line);
+        myFirstBlank = myFirstBlank == 0 ? line.number : myFirstBlank;
+        ++myBlanks;
+        return;
+    }
+    ReportBlankLines();
+    TextRow words = WordsOf(line);
+    myHasCells = false;
+    const bool isPlain = mySeparator == ',' && myRecords > 0 && std::cmp_equal(words.Count(), myCols);
+    if (!isPlain || (myCopy != nullptr && myCopy->Cols() != myCols)) {
+        words = TakeCells(std::move(words));
+    }
+    CountLineEnd(line);
+    if (myRecords == 0) {
+        SettleCols(words);
+    }
+    LookAtBytes(line);
+    LookAtBlanks(line);
+    Judge(words);
+    LookUp(words);
+    if (myCopy != nullptr) {
+        GiveToCopy(words);
+    }
+    ++myRecords;
+    myIsReading = myIsReading && (myFmt != clsDatFile::fmtDat || myRecords < mySize.rows);
+    myFirstUnannounced = myRecords == mySize.rows + 1 ? line.number : myFirstUnannounced;
+    myFirstTooMany = std::cmp_equal(myRecords, clsDatFile::mostRows + 1) ? line.number : myFirstTooMany;
+}
+
+/// Reads the line's cells as they were meant, joining lines where quotes go on. Returns its words, which are
+/// pWords unless lines were joined.
+TextRow DataCheck::TakeCells(TextRow pWords) {
+    const std::string_view text = WithoutByteOrderMark(myLines.Line());
+    if (mySeparator == '\0') {
+        mySeparator = SeparatorOf(text, myWanted.size());
+        if (mySeparator != ',') {
+            myFindings.Add(Kind::Lost, myLines.Line().number, Sort::Separator,
+                           std::string("the fields are separated by ") +
+                               (mySeparator == ';' ? "semicolons" : "tabs") +
+                               ", which the editor takes for text");
+        }
+    }
+    myCells.Begin(mySeparator);
+    myCells.Take(text);
+    const bool isOpen = myCells.IsOpen();
+    myIsUnclosed = isOpen && !myLines.Join(myCells);
+    myCells.End();
+    myHasCells = true;
+    return isOpen && !myIsUnclosed ? WordsOf(myLines.Line()) : std::move(pWords);
+}
+
+/// Settles how many fields a line should have, by the first record.
+void DataCheck::SettleCols(const TextRow &pWords) {
+    const MeantLine &line = myLines.Line();
+    const bool isDat = myFmt == clsDatFile::fmtDat;
+    const std::size_t meant = std::max(myCells.All().size(), mySize.cols);
+    const std::size_t found = isDat ? mySize.cols : static_cast<std::size_t>(pWords.Count());
+    const std::size_t unwanted = found > 0 ? found : std::max<std::size_t>(myTitles, meant);
+    myCols = myWanted.empty() ? unwanted : myWanted.size();
+    if (myCopy != nullptr && myTitles == 0) {
+        myCopy->Cols(myWanted.empty() ? meant : myWanted.size());
+    }
+    if (!myWanted.empty() && !isDat && found > 0 && found != myWanted.size()) {
+        myFindings.Add(Kind::Lost, line.number, Sort::Columns,
+                       "the first record has " + Counted(found, "field") + " and the specification has " +
+                           Counted(myWanted.size(), "column") + ", so the editor refuses the file");
+        myIsReading = false;
+    }
+}
+
+void DataCheck::CountLineEnd(const MeantLine &pLine) {
+    myLastEndsInLf = pLine.endsInLf;
+    if (pLine.endsInLf) {
+        myFirstLf = myLfEnds == 0 ? pLine.number : myFirstLf;
+        ++myLfEnds;
+        myIsReading = false;
+    }
+}
+
+/// Blank lines matter only where records follow.
+void DataCheck::ReportBlankLines() {
+    if (myFirstBlank > 0) {
+        EndTable(myFirstBlank, Sort::BlankLine, "the line is blank");
+        myFirstBlank = 0;
+    }
+}
+
+/// Tells whether the line would end the table, and why.
+void DataCheck::Judge(const TextRow &pWords) {
+    const MeantLine &line = myLines.Line();
+    if (line.text.find('\r') != std::string_view::npos) {
+        EndTable(line.number, Sort::CrInQuotes, "a line end inside quotes ends the line");
+    } else if (pWords.Count() == 0) {
+        const auto [sort, why] = WhyNoWords(line.text);
+        EndTable(line.number, sort, why);
+    } else if (std::cmp_greater(pWords.Count(), modGetWords::mostWords)) {
+        myFindings.Add(Kind::Lost, line.number, Sort::Limit,
+                       "a table holds at most " + std::to_string(modGetWords::mostWords) + " columns");
+        myIsReading = false;
+    } else if (std::cmp_not_equal(pWords.Count(), myCols) && (myRecords > 0 || myFmt == clsDatFile::fmtDat)) {
+        EndTable(line.number, Sort::FieldCount,
+                 Counted(static_cast<std::size_t>(pWords.Count()), "field") + ", not " +
+                     std::to_string(myCols));
+    }
+}
+
+void DataCheck::EndTable(std::size_t pLine, Sort pSort, const std::string &pWhy) {
+    if (myRecords == 0 && myFmt != clsDatFile::fmtDat) {
+        myFindings.Add(Kind::Lost, pLine, Sort::FirstLine,
+                       pWhy + ", and with a first line without fields the editor ends with a message");
+    } else if (myIsReading) {
+        myStop = Stop{pLine, pSort, pWhy, myRecords};
+    } else {
+        myFindings.Add(Kind::Lost, pLine, pSort, pWhy + ", which would end the table too");
+    }
+    myIsReading = false;
+}
+
+void DataCheck::LookAtBytes(const MeantLine &pLine) {
+    unsigned char all = 0;
+    bool hasNul = false;
+    for (const char character : pLine.text) {
+        all = static_cast<unsigned char>(all | static_cast<unsigned char>(character));
+        hasNul = hasNul || character == '\0';
+    }
+    if (hasNul) {
+        myFindings.Add(Kind::Note, pLine.number, Sort::Nul, "NUL bytes");
+    }
+    if (all >= 0x80 && !IsUtf8(pLine.text)) {
+        myFindings.Add(Kind::Note, pLine.number, Sort::NotUtf8, "bytes that aren't UTF-8");
+    }
+}
+
+void DataCheck::LookAtBlanks(const MeantLine &pLine) {
+    if (!myHasCells && MayHaveBlanksAtEnds(pLine.text)) {
+        myCells.Begin(mySeparator);
+        myCells.Take(pLine.text);
+        myCells.End();
+        myHasCells = true;
+    }
+    if (!myHasCells || !myCells.HasBlanksAtEnds()) {
+        return;
+    }
+    myFindings.Add(Kind::Changed, pLine.number, Sort::Blanks, "blanks at the ends of cells are left out");
+    if (myCopy != nullptr) {
+        myCopy->Note(CleanCopy::Act::DropBlanks, pLine.number);
+    }
+}
+
+/// Looks up the values of columns that insist on listed ones.
+void DataCheck::LookUp(const TextRow &pWords) {
+    if (std::cmp_not_equal(pWords.Count(), myWanted.size())) {
+        return;
+    }
+    for (std::size_t col = 0; col < myWanted.size(); ++col) {
+        const std::string_view value = pWords(static_cast<int>(myOrder.empty() ? col : myOrder[col]) + 1);
+        if (!myWanted[col].values.empty() && !myWanted[col].values.contains(LCase(value))) {
+            Unlisted &found = myUnlisted[col][std::string(value)];
+            found.line = found.records == 0 ? myLines.Line().number : found.line;
+            ++found.records;
+        }
+    }
+}
+
+void DataCheck::GiveToCopy(const TextRow &pWords) {
+    const std::size_t line = myLines.Line().number;
+    if (mySeparator != ',') {
+        myCopy->Note(CleanCopy::Act::Separate, line);
+    }
+    if (!myHasCells) {
+        myCopy->Record(line, pWords);
+    } else if (myIsUnclosed || myCells.HasTextAfterQuote()) {
+        myCopy->Refuse(line, myIsUnclosed ? "a quote is left open" : "text follows a closing quote");
+    } else {
+        myCopy->Record(line, myCells);
+    }
+}

@@ -1,0 +1,78 @@
+#pragma once
+/// What the checker has to say about one file: its findings, printed in the order of lines, one a line. Of
+/// one sort only the first ones are printed; the others are counted.
+#include <array>
+#include <cstddef>
+#include <iosfwd>
+#include <string>
+#include <utility>
+#include <vector>
+
+enum class Kind {
+    Lost,    ///< the editor would not show it, or would stop or refuse
+    Changed, ///< it would come back different when saved
+    Note,    ///< worth knowing, nothing is lost
+};
+
+/// What findings are about. Those of one sort are limited together.
+enum class Sort {
+    LineEnds,
+    Separator,
+    Size,
+    Columns,
+    FirstLine,
+    BlankLine,
+    CommaAtEnd,
+    OpenQuote,
+    TextAfterQuote,
+    CrInQuotes,
+    FieldCount,
+    Limit,
+    Blanks,
+    ByteOrderMark,
+    Titles,
+    NotUtf8,
+    Nul,
+    NotListed,
+    Specification,
+    ListFile,
+    Entry,
+    Copy,
+    Count, ///< how many there are
+};
+
+class Findings {
+public:
+    /// pFile is named in front of each finding. In a file that the editor only reads nothing is Changed: that
+    /// becomes a Note.
+    explicit Findings(std::string pFile, bool pIsSaved = true)
+        : myFile(std::move(pFile)), myIsSaved(pIsSaved) {}
+
+    /// Adds a finding of line pLine, from 1. Control characters in pText are shown as question marks.
+    void Add(Kind pKind, std::size_t pLine, Sort pSort, const std::string &pText);
+
+    /// How many there are, of one kind or of one sort.
+    std::size_t Of(Kind pKind) const { return myOfKind[static_cast<std::size_t>(pKind)]; }
+    std::size_t Of(Sort pSort) const { return myOfSort[static_cast<std::size_t>(pSort)]; }
+
+    const std::string &File() const { return myFile; }
+    void Print(std::ostream &pTo) const;
+
+private:
+    struct Finding {
+        std::size_t line;
+        Kind kind;
+        Sort sort;
+        bool isLastShown; ///< the last one of its sort that is printed
+        std::string text;
+    };
+
+    std::string myFile;
+    bool myIsSaved;
+    std::vector<Finding> myFindings;
+    std::array<std::size_t, 3> myOfKind{};
+    std::array<std::size_t, static_cast<std::size_t>(Sort::Count)> myOfSort{};
+};
+
+/// "1 line" and "2 lines", of pNoun "line".
+std::string Counted(std::size_t pCount, const std::string &pNoun);

@@ -1,0 +1,16 @@
+/// The command-line program NorvoCheckDat.
+#include "app/VersionRecord.h"
+#include "check/modCheck.h"
+#include "text/System.h"
+
+#include <iostream>
+
+int main(int argc, char *argv[]) {
+    os::ReportWriteLimits();
+    std::ios::sync_with_stdio(false);
+    const std::vector<std::string> words(argv + (argc > 0 ? 1 : 0), argv + argc);
+    const std::string folder = MakeAppRecord(os::ProgramFile()).Path;
+    const int status = modCheck::Main(words, folder, std::cout, std::cerr);
+    std::cout.flush();
+    return std::cout ? status : modCheck::statusImpossible;
+}

@@ -1,0 +1,187 @@
+#include "check/modCheck.h"
+
+#include "app/VersionRecord.h"
+#include "check/DataCheck.h"
+#include "check/SpecCheck.h"
+#include "text/Files.h"
+#include "text/Text.h"
+
+#include <algorithm>
+#include <memory>
+#include <optional>
+#include <ostream>
+#include <sstream>
+
+namespace modCheck {
+
+namespace {
+
+constexpr const char *usage = "Usage: NorvoCheckDat [/csv|/csvh] [specfile] datfile [/to newfile]\n"
+                              "       NorvoCheckDat /spec specfile\n";
+
+struct Request {
+    std::int16_t fmt = clsDatFile::fmtDat;
+    std::optional<std::string> specFile;
+    std::optional<std::string> datFile;
+    std::optional<std::string> newFile;
+};
+
+/// pWord in lower case, with "/" for "-" in front, as switches are compared.
+std::string Switch(const std::string &pWord) {
+    std::string text = LCase(pWord);
+    if (text.starts_with('-')) {
+        text[0] = '/';
+    }
+    return text;
+}
+
+/// What pWords ask for; nothing if they are wrong.
+std::optional<Request> Read(const std::vector<std::string> &pWords) {
+    Request request;
+    std::vector<std::string> names;
+    bool isSpec = false;
+    for (std::size_t i = 0; i < pWords.size(); ++i) {
+        const std::string word = Switch(pWords[i]);
+        if (word == "/csv") {
+            request.fmt = clsDatFile::fmtCsv;
+        } else if (word == "/csvh") {
+            request.fmt = clsDatFile::fmtCsvWithHeaders;
+        } else if (word == "/spec") {
+            isSpec = true;
+        } else if (word != "/to") {
+            names.push_back(pWords[i]);
+        } else if (++i < pWords.size()) {
+            request.newFile = pWords[i];
+        } else {
+            return std::nullopt;
+        }
+    }
+    if (names.empty() || names.size() > (isSpec ? 1U : 2U) || (isSpec && request.newFile)) {
+        return std::nullopt;
+    }
+    if (isSpec || names.size() > 1) {
+        request.specFile = names.front();
+    }
+    if (!isSpec) {
+        request.datFile = names.back();
+    }
+    return request;
+}
+
+bool IsSame(const std::vector<TextRow> &pRows, const clsDatFile &pTable) {
+    if (std::cmp_not_equal(pRows.size(), pTable.Rows())) {
+        return false;
+    }
+    std::int16_t number = 0;
+    for (const TextRow &row : pRows) {
+        const TextRow other = pTable.Row(number++);
+        const std::span<const TextRow::Place> ends = row.Ends();
+        if (row.Run() != other.Run() ||
+            !std::equal(ends.begin(), ends.end(), other.Ends().begin(), other.Ends().end())) {
+            return false;
+        }
+    }
+    return true;
+}
+
+/// Writes the copy and reads it back. The copy keeps the reason why that went wrong.
+void WriteChecked(const Request &pRequest, const WantedColumns &pWanted, CleanCopy &pCopy,
+                  std::ostream &pOut) {
+    pCopy.Write(*pRequest.newFile);
+    if (!pCopy.Fault().empty()) {
+        return;
+    }
+    Findings findings(*pRequest.newFile);
+    DataCheck check(pRequest.fmt, pWanted, findings);
+    check.Run();
+    const bool isClean =
+        findings.Of(Kind::Lost) == 0 && findings.Of(Kind::Changed) == findings.Of(Sort::Titles);
+    if (!check.Fault().empty() || !isClean || !IsSame(pCopy.Rows(), check.Table())) {
+        pCopy.TakeBack(*pRequest.newFile, "it did not come back as it was written, and has been removed");
+        return;
+    }
+    pOut << *pRequest.newFile << ": " << Counted(check.Records(), "record") << " in the file, "
+         << check.Shown() << " in the editor\n";
+}
+
+int CheckData(const Request &pRequest, const SpecCheck *pSpec, std::ostream &pOut, std::ostream &pErrors) {
+    static const WantedColumns none;
+    const bool isRefused = pSpec != nullptr && pSpec->Columns().empty();
+    const WantedColumns &wanted = pSpec != nullptr ? pSpec->Columns() : none;
+    Findings findings(*pRequest.datFile);
+    CleanCopy copy(pRequest.fmt, wanted);
+    DataCheck check(pRequest.fmt, wanted, findings, pRequest.newFile ? &copy : nullptr);
+    check.Run();
+    if (!check.Fault().empty()) {
+        pErrors << *pRequest.datFile << ": " << check.Fault() << '\n';
+        return statusImpossible;
+    }
+    std::ostringstream copied;
+    if (pRequest.newFile) {
+        if (isRefused) {
+            copy.Refuse(1, "the editor refuses the specification");
+        }
+        WriteChecked(pRequest, wanted, copy, copied);
+        if (copy.Fault().empty()) {
+            copy.Report(findings);
+        }
+    }
+    findings.Print(pOut);
+    pOut << *pRequest.datFile << ": " << Counted(check.Records(), "record") << " in the file, "
+         << (isRefused ? 0 : check.Shown()) << " in the editor\n"
+         << copied.str();
+    if (!copy.Fault().empty()) {
+        pErrors << *pRequest.newFile << ": not written: " << *pRequest.datFile << ": " << copy.Fault()
+                << '\n';
+        return statusImpossible;
+    }
+    return findings.Of(Kind::Lost) + findings.Of(Kind::Changed) > 0 ? statusFound : statusGood;
+}
+
+/// The file that pName stands for, looked for where the editor looks.
+std::string SpecFile(const std::string &pName, const std::string &pProgramFolder) {
+    return Dir(pName).empty() ? os::NativePath(pProgramFolder + "\\" + pName) : pName;
+}
+
+} // namespace
+
+int Main(const std::vector<std::string> &pWords, const std::string &pProgramFolder, std::ostream &pOut,
+         std::ostream &pErrors) {
+    if (pWords.size() == 1 && pWords[0] == "--help") {
+        pOut << usage;
+        return statusGood;
+    }
+    if (pWords.size() == 1 && pWords[0] == "--version") {
+        pOut << "NorvoCheckDat " << versionRecord::FileVersion() << '\n';
+        return statusGood;
+    }
+    const std::optional<Request> request = Read(pWords);
+    if (!request) {
+        pErrors << usage;
+        return statusImpossible;
+    }
+    std::unique_ptr<SpecCheck> spec;
+    int status = statusGood;
+    if (request->specFile) {
+        const std::string file = SpecFile(*request->specFile, pProgramFolder);
+        if (Dir(file).empty()) {
+            pErrors << "Specification file: " << file << " doesn't exist.\n";
+            return statusImpossible;
+        }
+        spec = std::make_unique<SpecCheck>(file, pProgramFolder);
+        if (!spec->Fault().empty()) {
+            pErrors << file << ": " << spec->Fault() << '\n';
+            return statusImpossible;
+        }
+        spec->Print(pOut);
+        status = spec->IsLossy() ? statusFound : statusGood;
+    }
+    if (request->datFile) {
+        return std::max(status, CheckData(*request, spec.get(), pOut, pErrors));
+    }
+    pOut << *request->specFile << ": " << Counted(spec->Rows(), "column") << " in the file, "
+         << spec->Columns().size() << " in the editor\n";
+    return status;
+}
+
+} // namespace modCheck
