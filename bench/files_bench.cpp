@@ -3,14 +3,17 @@
 ///   whole, which do less;
 ///   Save with libcsv's two writers and quoting in blocks, which also start from cells, and with a plain
 ///   write of the finished bytes, which does less;
-///   AppOpen with Load, and AppSave with Save.
+///   AppOpen with Load, and AppSave with Save;
+///   Check with Load, and Copy, which checks, loads and saves, with Load and Save.
 /// All writers flush the file. In memory that costs nothing. To measure it too, name a folder on a disk in
 /// NORVO_BENCH_FOLDER.
 #include "bench/Editor.h"
 #include "bench/Passes.h"
 #include "bench/Peers.h"
+#include "check/modCheck.h"
 
 #include <memory>
+#include <sstream>
 
 namespace {
 
@@ -45,6 +48,30 @@ private:
     clsDatFile myTable{myRuntime};
 };
 
+/// The checker, which opens a file to check it, and saves it as a clean copy.
+class Checker {
+public:
+    explicit Checker(std::int16_t pFmt) : myForm(pFmt) {}
+    void Open(const std::string &pFile) { Run(pFile, {}); }
+    void Save(const std::string &pFile) { Run(myFile, {"/to", pFile}); }
+    std::string Fault() const { return myFaults.str(); }
+    bool Says(const std::string &pRows) const {
+        return myOut.str() == myFile + ": " + pRows + " records in the file, " + pRows + " in the editor\n";
+    }
+
+private:
+    void Run(const std::string &pFile, std::vector<std::string> pWords) {
+        myFile = pFile;
+        pWords.push_back(pFile);
+        pWords.insert(pWords.end(), myForm == dat ? 0 : 1, myForm == csv ? "/csv" : "/csvh");
+        modCheck::Main(pWords, "", myOut, myFaults);
+    }
+    std::int16_t myForm;
+    std::string myFile;
+    std::ostringstream myOut;
+    std::ostringstream myFaults;
+};
+
 // Results are compared by their size and their last cell.
 
 template <typename Subject> bool Holds(const std::unique_ptr<Subject> &pSubject, Cells pWanted) {
@@ -52,6 +79,10 @@ template <typename Subject> bool Holds(const std::unique_ptr<Subject> &pSubject,
         return false;
     }
     return pSubject->Row(pSubject->Rows())(static_cast<int>(pWanted.back().size())) == pWanted.back().back();
+}
+
+bool Holds(const std::unique_ptr<Checker> &pChecker, Cells pWanted) {
+    return pChecker->Says(std::to_string(pWanted.size()));
 }
 
 bool Holds(const std::vector<Tables::Row> &pRows, Cells pWanted) {
@@ -120,29 +151,30 @@ constexpr auto Load = Read<Table>;
 constexpr auto Save = Write<Table>;
 constexpr auto AppOpen = Read<Editor>;
 constexpr auto AppSave = Write<Editor>;
+constexpr auto Check = Read<Checker>;
+constexpr auto Copy = Write<Checker>;
 
 } // namespace
 
-BENCHMARK_CAPTURE(Load, dat, dat, Tables::Limit)->Apply(Passes::ConfigureRows);
-BENCHMARK_CAPTURE(Load, csv, csv, Tables::Limit)->Apply(Passes::ConfigureRows);
-BENCHMARK_CAPTURE(Load, csvh, csvh, Tables::Limit)->Apply(Passes::ConfigureRows);
+#define MEASURE_EACH_FORM(pWhat)                                                                             \
+    BENCHMARK_CAPTURE(pWhat, dat, dat, Tables::Limit)->Apply(Passes::ConfigureRows);                         \
+    BENCHMARK_CAPTURE(pWhat, csv, csv, Tables::Limit)->Apply(Passes::ConfigureRows);                         \
+    BENCHMARK_CAPTURE(pWhat, csvh, csvh, Tables::Limit)->Apply(Passes::ConfigureRows);
+
+MEASURE_EACH_FORM(Load)
 BENCHMARK_CAPTURE(Load, field, dat, Tables::LongField)->Name("LoadLongField")->Apply(ConfigureField);
-BENCHMARK_CAPTURE(AppOpen, dat, dat, Tables::Limit)->Apply(Passes::ConfigureRows);
-BENCHMARK_CAPTURE(AppOpen, csv, csv, Tables::Limit)->Apply(Passes::ConfigureRows);
-BENCHMARK_CAPTURE(AppOpen, csvh, csvh, Tables::Limit)->Apply(Passes::ConfigureRows);
+MEASURE_EACH_FORM(AppOpen)
 BENCHMARK_CAPTURE(ReadPeer, libcsv, Peers::ReadByLibcsv<false>)->Apply(Passes::ConfigureRows);
 BENCHMARK_CAPTURE(ReadPeer, libcsv_room, Peers::ReadByLibcsv<true>)->Apply(Passes::ConfigureRows);
 BENCHMARK_CAPTURE(ReadPeer, getline, Peers::ReadByGetline)->Apply(Passes::ConfigureRows);
 BENCHMARK_CAPTURE(ReadPeer, references, Peers::SplitIntoReferences)->Apply(Passes::ConfigureRows);
 BENCHMARK_CAPTURE(ReadPeer, whole, Peers::ReadWhole)->Apply(Passes::ConfigureRows);
-BENCHMARK_CAPTURE(Save, dat, dat, Tables::Limit)->Apply(Passes::ConfigureRows);
-BENCHMARK_CAPTURE(Save, csv, csv, Tables::Limit)->Apply(Passes::ConfigureRows);
-BENCHMARK_CAPTURE(Save, csvh, csvh, Tables::Limit)->Apply(Passes::ConfigureRows);
+MEASURE_EACH_FORM(Save)
 BENCHMARK_CAPTURE(Save, field, dat, Tables::LongField)->Name("SaveLongField")->Apply(ConfigureField);
-BENCHMARK_CAPTURE(AppSave, dat, dat, Tables::Limit)->Apply(Passes::ConfigureRows);
-BENCHMARK_CAPTURE(AppSave, csv, csv, Tables::Limit)->Apply(Passes::ConfigureRows);
-BENCHMARK_CAPTURE(AppSave, csvh, csvh, Tables::Limit)->Apply(Passes::ConfigureRows);
+MEASURE_EACH_FORM(AppSave)
 BENCHMARK_CAPTURE(WritePeer, libcsv_fwrite, Peers::WriteByLibcsvFwrite)->Apply(Passes::ConfigureRows);
 BENCHMARK_CAPTURE(WritePeer, libcsv_write, Peers::WriteByLibcsvWrite)->Apply(Passes::ConfigureRows);
 BENCHMARK_CAPTURE(WritePeer, blocks, Peers::QuoteInBlocks)->Apply(Passes::ConfigureRows);
 BENCHMARK_CAPTURE(WritePeer, plain, Peers::PlainWrite)->Apply(Passes::ConfigureRows);
+MEASURE_EACH_FORM(Check)
+MEASURE_EACH_FORM(Copy)

@@ -31,6 +31,8 @@ COMPARED = (
     ("Save", "Save/%s", "quoting in blocks", "WritePeer/blocks", "-"),
     ("Save", "Save/%s", "plain write", "WritePeer/plain", "<= 3"),
     ("AppSave", "AppSave/%s", "Save", "Save/%s", "<= 1.5"),
+    ("Check", "Check/%s", "Load", "Load/%s", "<= 2"),
+    ("Copy", "Copy/%s", "Load and Save", "Load/%s+Save/%s", "<= 2"),
 )
 MEMORY = (  # what, its benchmark and the counter, the goal for its megabytes
     ("Load %s, memory kept", "Load/%s", "kept_MB", "-"),
@@ -96,7 +98,8 @@ class Results:
             self.most[name, counter] = max(run.get(counter, 0), self.most.get((name, counter), 0))
 
     def compare(self, what, mine, title, other, goal="-"):
-        times, others = (self.times[name][max(self.times[name])] for name in (mine, other))
+        times, *parts = (self.times[name][max(self.times[name])] for name in (mine, *other.split("+")))
+        others = [sum(passes) for passes in zip(*map(sorted, parts))]
         ratio = min(times) / min(others) if goal.startswith("<=") else min(others) / min(times)
         return line(what, shown(times), title, shown(others), ratio, goal)
 

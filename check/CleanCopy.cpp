@@ -5,7 +5,7 @@
 #include "data/clsDatFile.h"
 #include "data/modGetWords.h"
 #include "platform/Runtime.h"
-#include "text/System.h"
+#include "text/Files.h"
 #include "text/Text.h"
 
 #include <algorithm>
@@ -21,6 +21,12 @@ std::string Kept(const std::string &pCell) {
 
 bool HasLineBreak(const std::string &pCell) {
     return pCell.find_first_of("\r\n") != std::string::npos;
+}
+
+bool IsSame(const TextRow &pOne, const TextRow &pOther) {
+    const std::span<const TextRow::Place> ends = pOne.Ends();
+    const std::span<const TextRow::Place> others = pOther.Ends();
+    return std::equal(ends.begin(), ends.end(), others.begin(), others.end()) && pOne.Run() == pOther.Run();
 }
 
 std::string ActText(CleanCopy::Act pAct, std::size_t pLines) {
@@ -171,14 +177,33 @@ void CleanCopy::Write(const std::string &pFile) {
         table.Row(row, myRows[static_cast<std::size_t>(row)]);
     }
     table.Save();
-    if (!table.Fault().empty()) {
-        TakeBack(pFile, table.Fault());
+    myFault = table.Fault();
+    if (myFault.empty() && !ReadsBack(pFile)) {
+        myFault = "it did not come back as it was written";
+    }
+    if (!myFault.empty()) {
+        std::remove(pFile.c_str());
     }
 }
 
-void CleanCopy::TakeBack(const std::string &pFile, const std::string &pWhy) {
-    myFault = pWhy;
-    std::remove(pFile.c_str());
+/// Whether pFile has exactly the records of the copy: line by line, as the editor reads them.
+bool CleanCopy::ReadsBack(const std::string &pFile) const {
+    TextInput file(pFile);
+    TextRowRoom room;
+    if (myFmt == clsDatFile::fmtDat) {
+        const std::string size = std::to_string(myRows.size()) + "," + std::to_string(myCols);
+        if (file.LineInput() != size) {
+            return false;
+        }
+    } else if (myFmt == clsDatFile::fmtCsvWithHeaders) {
+        if (!IsSame(modGetWords::GetWords(file.LineInput(), room), TextRow(myTitles))) {
+            return false;
+        }
+    }
+    const auto comesBack = [&](const TextRow &pRow) {
+        return IsSame(modGetWords::GetWords(file.LineInput(), room), pRow);
+    };
+    return std::all_of(myRows.begin(), myRows.end(), comesBack) && file.AtEnd() && file.Fault().empty();
 }
 
 void CleanCopy::Report(Findings &pFindings) const {

@@ -52,11 +52,9 @@ public:
     /// Why there is no copy. Empty if there is, or can be.
     const std::string &Fault() const { return myFault; }
 
-    /// Writes the copy to pFile, which must not exist yet. After a fault there is no such file.
+    /// Writes the copy to pFile, which must not exist yet, and reads it back. After a fault there is no such
+    /// file.
     void Write(const std::string &pFile);
-    /// Removes the copy, because of pWhy.
-    void TakeBack(const std::string &pFile, const std::string &pWhy);
-
     /// Adds what was done to the file.
     void Report(Findings &pFindings) const;
 
@@ -70,6 +68,7 @@ private:
 
     bool MakeFit(std::size_t pLine, std::vector<std::string> &pCells);
     bool HasRoom(std::size_t pLine);
+    bool ReadsBack(const std::string &pFile) const;
     TextRow InOrder(const std::vector<std::string> &pCells) const;
 
     std::int16_t myFmt;

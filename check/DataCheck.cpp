@@ -68,13 +68,12 @@ void DataCheck::LoadAsEditor() {
         myEndsProgram = true;
         return;
     }
-    const auto rows = static_cast<std::int16_t>(myTable.WasRead() && myTable.Cols() > 0 ? myTable.Rows() : 0);
-    // A row that the .dat reader did not get to has no cells.
-    std::int16_t row = 0;
-    while (row < rows && myTable.Row(row).Count() == myTable.Cols()) {
-        ++row;
+    auto rows = static_cast<std::int16_t>(myTable.WasRead() && myTable.Cols() > 0 ? myTable.Rows() : 0);
+    // The rows that the .dat reader did not get to have no cells.
+    while (rows > 0 && myTable.Row(static_cast<std::int16_t>(rows - 1)).Count() == 0) {
+        --rows;
     }
-    myRowsRead = static_cast<std::size_t>(row);
+    myRowsRead = static_cast<std::size_t>(rows);
 }
 
 std::size_t DataCheck::Shown() const {

@@ -5,6 +5,7 @@
 #include "text/Text.h"
 
 #include <algorithm>
+#include <cstring>
 
 namespace {
 
@@ -22,13 +23,29 @@ std::pair<Sort, std::string> WhyNoWords(std::string_view pLine) {
     return {Sort::CommaAtEnd, "the line ends in a comma"};
 }
 
+/// How many bytes of pText, from pAt on, are ASCII; eight at a time, and so perhaps a few too few.
+std::size_t AsciiAt(std::string_view pText, std::size_t pAt) {
+    constexpr std::uint64_t highBits = 0x8080808080808080;
+    const std::size_t from = pAt;
+    std::uint64_t bytes = 0;
+    while (pAt + sizeof bytes <= pText.size()) {
+        std::memcpy(&bytes, pText.data() + pAt, sizeof bytes);
+        if ((bytes & highBits) != 0) {
+            break;
+        }
+        pAt += sizeof bytes;
+    }
+    return pAt - from;
+}
+
 bool IsUtf8(std::string_view pText) {
-    for (std::size_t at = 0; at < pText.size();) {
+    for (std::size_t at = AsciiAt(pText, 0); at < pText.size();) {
         const CodePoint character = CodePointAt(pText, at);
         if (!character.isValid) {
             return false;
         }
         at += character.length;
+        at += character.length > 1 ? AsciiAt(pText, at) : 0;
     }
     return true;
 }
@@ -180,16 +197,10 @@ void DataCheck::EndTable(std::size_t pLine, Sort pSort, const std::string &pWhy)
 }
 
 void DataCheck::LookAtBytes(const MeantLine &pLine) {
-    unsigned char all = 0;
-    bool hasNul = false;
-    for (const char character : pLine.text) {
-        all = static_cast<unsigned char>(all | static_cast<unsigned char>(character));
-        hasNul = hasNul || character == '\0';
-    }
-    if (hasNul) {
+    if (pLine.text.find('\0') != std::string_view::npos) {
         myFindings.Add(Kind::Note, pLine.number, Sort::Nul, "NUL bytes");
     }
-    if (all >= 0x80 && !IsUtf8(pLine.text)) {
+    if (!IsUtf8(pLine.text)) {
         myFindings.Add(Kind::Note, pLine.number, Sort::NotUtf8, "bytes that aren't UTF-8");
     }
 }
