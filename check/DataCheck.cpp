@@ -90,7 +90,7 @@ std::string_view DataCheck::WithoutByteOrderMark(const MeantLine &pLine) {
     myFindings.Add(Kind::Changed, 1, Sort::ByteOrderMark,
                    isInHeader
                        ? "a byte-order mark stands before the first title; it is lost with the header line"
-                       : "a byte-order mark stands before the first cell; the editor takes it for text");
+                       : "a byte-order mark stands at the start; the editor takes it for part of the text");
     if (myCopy != nullptr) {
         myCopy->Note(CleanCopy::Act::DropByteOrderMark, 1);
     }
@@ -132,12 +132,12 @@ void DataCheck::TakeHeader() {
             "a line end inside quotes ends the header line, so its rest is taken for the first record");
         myIsReading = false;
     }
-    if (mySeparator != ',') {
-        myFindings.Add(Kind::Lost, line.number, Sort::Separator,
-                       std::string("the fields are separated by ") +
-                           (mySeparator == ';' ? "semicolons" : "tabs") +
-                           ", which the editor takes for text");
+    if (myIsUnclosed) {
+        myFindings.Add(Kind::Lost, line.number, Sort::OpenQuote,
+                       "a quote is left open, so nobody can tell where the header line ends");
+        myIsReading = false;
     }
+    ReportSeparator();
     myTitles = myCells.All().size();
     if (!myWanted.empty()) {
         CompareTitles(line);
@@ -147,6 +147,15 @@ void DataCheck::TakeHeader() {
             myCopy->Refuse(line.number, "the quotes of the titles don't match");
         }
         myCopy->Header(line.number, myCells);
+    }
+}
+
+void DataCheck::ReportSeparator() {
+    if (mySeparator != ',') {
+        const std::string marks = mySeparator == ';' ? "semicolons" : "tabs";
+        myFindings.Add(Kind::Lost, myLines.Line().number, Sort::Separator,
+                       marks + " separate the fields, and the editor takes them for text");
+        myIsReading = false;
     }
 }
 
@@ -183,12 +192,11 @@ void DataCheck::ReportLineEnds() {
         return;
     }
     const bool areAll = myLfEnds == myLines.Count() || (myLfEnds + 1 == myLines.Count() && !myLastEndsInLf);
-    const std::string ends = areAll
-                                 ? "LF alone ends the lines, all " + std::to_string(myLfEnds)
-                                 : "LF alone ends this line" +
-                                       (myLfEnds > 1 ? " and " + std::to_string(myLfEnds - 1) + " more" : "");
-    myFindings.Add(Kind::Lost, areAll ? 1 : myFirstLf, Sort::LineEnds,
-                   ends + ", so the editor reads each of them and the next as one line");
+    const std::string more = myLfEnds > 1 ? " and " + std::to_string(myLfEnds - 1) + " more" : "";
+    myFindings.Add(
+        Kind::Lost, areAll ? 1 : myFirstLf, Sort::LineEnds,
+        areAll ? "LF alone ends the file's " + Counted(myLfEnds, "line") + ", so the editor reads them as one"
+               : "LF alone ends this line" + more + ", and the editor reads such a line and the next as one");
 }
 
 void DataCheck::ReportSize() {
@@ -202,12 +210,13 @@ void DataCheck::ReportSize() {
     }
     const std::string announces = "the first line announces " + Counted(mySize.rows, "record");
     if (myLfEnds == 0 && myTable.WasRead() && !myTable.Fault().empty()) {
-        myFindings.Add(Kind::Lost, 1, Sort::Size, WithoutName(myTable.Fault(), myFindings.File()));
+        const std::string askForForm = mySize.rows == 0 ? " Is it CSV? Then say /csv or /csvh." : "";
+        myFindings.Add(Kind::Lost, 1, Sort::Size,
+                       WithoutName(myTable.Fault(), myFindings.File()) + askForForm);
     } else if (mySize.cols == 0) {
-        myFindings.Add(
-            Kind::Lost, 1, Sort::Size,
-            "the first line isn't two numbers, of the records and of the columns, so the editor refuses "
-            "the file (a CSV file needs /csv or /csvh)");
+        myFindings.Add(Kind::Lost, 1, Sort::Size,
+                       "the first line isn't two numbers, of the records and of the columns, so the editor "
+                       "refuses the file. Is it CSV? Then say /csv or /csvh.");
     } else if (mySize.rows < myRecords) {
         myFindings.Add(Kind::Lost, myFirstUnannounced, Sort::Size,
                        announces + ", so from here on " + Counted(myRecords - mySize.rows, "line") +

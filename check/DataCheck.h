@@ -57,6 +57,7 @@ private:
     std::string_view WithoutByteOrderMark(const MeantLine &pLine);
     void TakeSizeLine();
     void TakeHeader();
+    void ReportSeparator();
     void CompareTitles(const MeantLine &pLine);
     void ReportSize();
     void ReportLineEnds();
@@ -70,6 +71,7 @@ private:
     void SettleCols(const TextRow &pWords);
     void CountLineEnd(const MeantLine &pLine);
     void ReportBlankLines();
+    std::size_t FieldsOf(const TextRow &pWords) const;
     void Judge(const TextRow &pWords);
     void EndTable(std::size_t pLine, Sort pSort, const std::string &pWhy);
     void LookAtBytes(const MeantLine &pLine);

@@ -10,9 +10,9 @@
 namespace {
 
 /// The words why the editor sees no fields in pLine, and the sort of that.
-std::pair<Sort, std::string> WhyNoWords(std::string_view pLine) {
+std::pair<Sort, std::string> WhyNoWords(std::string_view pLine, char pSeparator) {
     MeantCells cells;
-    cells.Begin(',');
+    cells.Begin(pSeparator);
     cells.Take(pLine);
     if (cells.IsOpen()) {
         return {Sort::OpenQuote, "a quote is left open"};
@@ -113,12 +113,7 @@ TextRow DataCheck::TakeCells(TextRow pWords) {
     const std::string_view text = WithoutByteOrderMark(myLines.Line());
     if (mySeparator == '\0') {
         mySeparator = SeparatorOf(text, myWanted.size());
-        if (mySeparator != ',') {
-            myFindings.Add(Kind::Lost, myLines.Line().number, Sort::Separator,
-                           std::string("the fields are separated by ") +
-                               (mySeparator == ';' ? "semicolons" : "tabs") +
-                               ", which the editor takes for text");
-        }
+        ReportSeparator();
     }
     myCells.Begin(mySeparator);
     myCells.Take(text);
@@ -134,7 +129,7 @@ void DataCheck::SettleCols(const TextRow &pWords) {
     const MeantLine &line = myLines.Line();
     const bool isDat = myFmt == clsDatFile::fmtDat;
     const std::size_t meant = std::max(myCells.All().size(), mySize.cols);
-    const std::size_t found = isDat ? mySize.cols : static_cast<std::size_t>(pWords.Count());
+    const std::size_t found = isDat ? mySize.cols : FieldsOf(pWords);
     const std::size_t unwanted = found > 0 ? found : std::max<std::size_t>(myTitles, meant);
     myCols = myWanted.empty() ? unwanted : myWanted.size();
     if (myCopy != nullptr && myTitles == 0) {
@@ -165,22 +160,29 @@ void DataCheck::ReportBlankLines() {
     }
 }
 
+/// How many fields the line has: as the editor counts them, or as they were meant if no commas separate them.
+std::size_t DataCheck::FieldsOf(const TextRow &pWords) const {
+    if (mySeparator == ',') {
+        return static_cast<std::size_t>(pWords.Count());
+    }
+    return myIsUnclosed || myCells.HasTextAfterQuote() ? 0 : myCells.All().size();
+}
+
 /// Tells whether the line would end the table, and why.
 void DataCheck::Judge(const TextRow &pWords) {
     const MeantLine &line = myLines.Line();
+    const std::size_t fields = FieldsOf(pWords);
     if (line.text.find('\r') != std::string_view::npos) {
         EndTable(line.number, Sort::CrInQuotes, "a line end inside quotes ends the line");
-    } else if (pWords.Count() == 0) {
-        const auto [sort, why] = WhyNoWords(line.text);
+    } else if (fields == 0) {
+        const auto [sort, why] = WhyNoWords(line.text, mySeparator);
         EndTable(line.number, sort, why);
-    } else if (std::cmp_greater(pWords.Count(), modGetWords::mostWords)) {
+    } else if (std::cmp_greater(fields, modGetWords::mostWords)) {
         myFindings.Add(Kind::Lost, line.number, Sort::Limit,
                        "a table holds at most " + std::to_string(modGetWords::mostWords) + " columns");
         myIsReading = false;
-    } else if (std::cmp_not_equal(pWords.Count(), myCols) && (myRecords > 0 || myFmt == clsDatFile::fmtDat)) {
-        EndTable(line.number, Sort::FieldCount,
-                 Counted(static_cast<std::size_t>(pWords.Count()), "field") + ", not " +
-                     std::to_string(myCols));
+    } else if (fields != myCols && (myRecords > 0 || myFmt == clsDatFile::fmtDat)) {
+        EndTable(line.number, Sort::FieldCount, Counted(fields, "field") + ", not " + std::to_string(myCols));
     }
 }
 

@@ -14,6 +14,7 @@ file(COPY_FILE "${CPACK_NORVO_CHANGELOG}" "${documents}/changelog")
 
 execute_process(
     COMMAND gzip -9n "${documents}/changelog" "${prefix}/${CPACK_NORVO_MANDIR}/man1/NorvoEditDat.1"
+        "${prefix}/${CPACK_NORVO_MANDIR}/man1/NorvoCheckDat.1"
     COMMAND_ERROR_IS_FATAL ANY)
 
 # The packager's umask must not show in the package.

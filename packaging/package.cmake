@@ -16,7 +16,10 @@ of all records. A field can offer a list of values, insist on one of them, and
 complete what you type.
 .
 Data files are comma-separated values, or the program's own form with the
-number of records in front. A sample and a help page are included.")
+number of records in front. A sample and a help page are included.
+.
+NorvoCheckDat, a command, says what of a file the editor would lose, and makes
+a copy of which nothing is lost.")
 set(CPACK_RESOURCE_FILE_LICENSE "${CMAKE_CURRENT_SOURCE_DIR}/LICENSE")
 set(CPACK_STRIP_FILES ON)
 set(CPACK_VERBATIM_VARIABLES ON)
@@ -28,8 +31,8 @@ set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # The forms are laid out for the metrics of this font. No library depends on it.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS fonts-liberation)
-# qt6-wayland is for desktops without X.
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland")
+# qt6-wayland is for desktops without X. dos2unix ends the lines of list files, as the help page says.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland, dos2unix")
 # It finds the program that opens the help page. Most desktops have it. To recommend it would bring a terminal.
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS "xdg-utils")
 

@@ -61,15 +61,17 @@ for path in usr/lib/NorvoEditDat/{NorvoEditDat.dat,timezones.dat,countries.txt,a
     usr/share/doc/norvo-edit-dat/{README.md,share/Help/main.png,docs/dark.png,copyright,changelog.gz}; do
     [ -s "$root/$path" ] || fail "$path is not in the package"
 done
-[ "$(readlink "$root/usr/bin/NorvoEditDat")" = ../lib/NorvoEditDat/NorvoEditDat ] ||
-    fail "the link in bin is not the relative one to the program"
+for program in NorvoEditDat NorvoCheckDat; do
+    [ "$(readlink "$root/usr/bin/$program")" = "../lib/NorvoEditDat/$program" ] ||
+        fail "the link in bin is not the relative one to $program"
+    gunzip -c "$root/usr/share/man/man1/$program.1.gz" >"$program.1"
+    check "manual page of $program" mandoc -Tlint -W warning "$program.1"
+done
 ! grep -q -a -e "$scratch" -e "$source" "$program_folder/NorvoEditDat" ||
     fail "the program names a folder of the machine it was built on"
 
 check "desktop entry" desktop-file-validate "$root/usr/share/applications/$id.desktop"
 check "metainfo" appstreamcli validate --no-net "$root/usr/share/metainfo/$id.metainfo.xml"
-gunzip -c "$root/usr/share/man/man1/NorvoEditDat.1.gz" >NorvoEditDat.1
-check "manual page" mandoc -Tlint -W warning NorvoEditDat.1
 check "messages in the help page" "$source/tests/package/help_messages.py" "$source"
 
 # --- the program, started from its link ---
@@ -98,5 +100,7 @@ properties=$(xprop -id "$windows" WM_NAME _NET_WM_WINDOW_TYPE)
 [[ $properties == *"\"$title\""* && $properties != *_TYPE_DIALOG* ]] || fail "not the main window: $properties"
 kill -0 "$pid" || fail "the program has ended by itself"
 [ -z "$(find home -type f)" ] || fail "the program has left files behind: $(find home -type f)"
+
+check "the sample, by the checker" "$root/usr/bin/NorvoCheckDat" "$program_folder"/{NorvoEditDat,timezones}.dat
 
 echo "The package is well made: $(basename "$deb")"
