@@ -64,7 +64,7 @@ private:
         myFile = pFile;
         pWords.push_back(pFile);
         pWords.insert(pWords.end(), myForm == dat ? 0 : 1, myForm == csv ? "/csv" : "/csvh");
-        modCheck::Main(pWords, "", myOut, myFaults);
+        modCheck::Main(pWords, "", "", myOut, myFaults);
     }
     std::int16_t myForm;
     std::string myFile;

@@ -9,7 +9,6 @@
 #include "text/Text.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <utility>
 
 namespace {
@@ -157,13 +156,12 @@ void CleanCopy::Write(const std::string &pFile) {
     if (myFault.empty() && myRows.empty()) {
         myFault = "there are no records";
     }
-    // "x" never takes a file that is there, not even one that appears at this very moment.
-    std::FILE *const file = myFault.empty() ? std::fopen(pFile.c_str(), "wbx") : nullptr;
-    if (file == nullptr) {
-        myFault = !myFault.empty() ? myFault : "a file of that name can't be made, or is there already";
-        return;
+    if (myFault.empty()) {
+        myFault = os::MakeNewFile(pFile).Words();
     }
-    std::fclose(file);
+    if (!myFault.empty()) {
+        return; // Nothing has been made, and what may be there is somebody's.
+    }
     NoDesktop desktop;
     const Runtime runtime(desktop, {}, "");
     clsDatFile table(runtime);
@@ -182,7 +180,7 @@ void CleanCopy::Write(const std::string &pFile) {
         myFault = "it did not come back as it was written";
     }
     if (!myFault.empty()) {
-        std::remove(pFile.c_str());
+        os::RemoveFile(pFile);
     }
 }
 

@@ -16,6 +16,15 @@ std::size_t SizeNumber(std::string_view pText) {
     return number > 0 ? static_cast<std::size_t>(number) : 0;
 }
 
+/// Whether pText is made of numbers only, and so isn't a record.
+bool IsSizeLine(std::string_view pText) {
+    return pText.find_first_not_of("0123456789+-.,;\t \"") == std::string_view::npos;
+}
+
+std::string NotRead(std::size_t pLines) {
+    return Counted(pLines, "line") + (pLines == 1 ? " is" : " are") + " not read";
+}
+
 bool IsByteOrderMark(std::string_view pText) {
     return pText.starts_with(byteOrderMark);
 }
@@ -81,9 +90,19 @@ std::size_t DataCheck::Shown() const {
     return myEndsProgram || isRefused ? 0 : myRowsRead;
 }
 
-/// The text of pLine. Reports a byte-order mark in front of it.
+/// The text of pLine. Reports what the first bytes of the file say of its encoding.
 std::string_view DataCheck::WithoutByteOrderMark(const MeantLine &pLine) {
-    if (pLine.number != 1 || !IsByteOrderMark(pLine.text)) {
+    if (pLine.number != 1) {
+        return pLine.text;
+    }
+    if (pLine.text.starts_with("\xFF\xFE") || pLine.text.starts_with("\xFE\xFF")) {
+        const std::string why = "the file is in UTF-16, and the editor takes it for UTF-8";
+        myFindings.Add(Kind::Lost, 1, Sort::NotUtf8, why);
+        if (myCopy != nullptr) {
+            myCopy->Refuse(1, why);
+        }
+    }
+    if (!IsByteOrderMark(pLine.text)) {
         return pLine.text;
     }
     const bool isInHeader = myFmt == clsDatFile::fmtCsvWithHeaders;
@@ -105,6 +124,9 @@ void DataCheck::TakeSizeLine() {
     const std::string_view text = WithoutByteOrderMark(line);
     CountLineEnd(line);
     const std::size_t comma = text.find(',');
+    if (myCopy != nullptr && !IsSizeLine(text)) {
+        myCopy->Refuse(line.number, "the first line isn't the numbers of records and columns");
+    }
     if (line.endsInLf && comma != std::string_view::npos) {
         // The editor makes nothing of it. As it was meant, it may still be right.
         mySize = {SizeNumber(text.substr(0, comma)), SizeNumber(text.substr(comma + 1))};
@@ -219,8 +241,7 @@ void DataCheck::ReportSize() {
                        "refuses the file. Is it CSV? Then say /csv or /csvh.");
     } else if (mySize.rows < myRecords) {
         myFindings.Add(Kind::Lost, myFirstUnannounced, Sort::Size,
-                       announces + ", so from here on " + Counted(myRecords - mySize.rows, "line") +
-                           " are not read");
+                       announces + ", so from here on " + NotRead(myRecords - mySize.rows));
     } else if (mySize.rows > myRecords) {
         myFindings.Add(Kind::Lost, 1, Sort::Size, announces + ", but there are " + std::to_string(myRecords));
     }
@@ -239,8 +260,7 @@ void DataCheck::ReportStop() {
     if (myStop) {
         const std::size_t lines = myRecords - myStop->recordsBefore;
         myFindings.Add(Kind::Lost, myStop->line, myStop->sort,
-                       myStop->why + ", so the table ends before it; " + Counted(lines, "line") +
-                           (lines == 1 ? " is" : " are") + " not read");
+                       myStop->why + ", so the table ends before it; " + NotRead(lines));
     }
 }
 

@@ -28,7 +28,7 @@ public:
     void Run();
 
     /// Why the file can't be read. Empty if it can.
-    const std::string &Fault() const { return myLines.Fault(); }
+    std::string_view Fault() const { return myLines.Fault(); }
     /// How many records the file was meant to have.
     std::size_t Records() const { return myRecords; }
     /// How many of them the editor shows.

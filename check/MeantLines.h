@@ -35,7 +35,7 @@ public:
     /// How many lines there have been. A joined line counts as one.
     std::size_t Count() const { return myCount; }
     /// Why the file can't be read to its end. Empty if it can.
-    const std::string &Fault() const { return myFile.Fault(); }
+    std::string_view Fault() const { return myFile.Fault(); }
 
 private:
     /// What stands between two line ends of any kind.

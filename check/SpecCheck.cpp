@@ -72,7 +72,7 @@ void SpecCheck::TakeColumn(const SpecColumn &pColumn, std::size_t pLine) {
         return;
     }
     const std::string &name = pColumn.listFile;
-    const std::string file = Dir(name).empty() ? os::NativePath(myProgramFolder + "\\" + name) : name;
+    const std::string file = os::NativePath(pColumn.ListPath(myProgramFolder));
     if (Dir(file).empty()) {
         myFindings.front().Add(Kind::Note, pLine, Sort::ListFile,
                                "the list file " + Quoted(name) + " isn't there, and neither is " + file +
@@ -97,7 +97,7 @@ void SpecCheck::TakeList(const std::string &pFile, WantedColumn &pColumn) {
     }
     if (!lines.Fault().empty()) {
         findings.Add(Kind::Lost, 1, Sort::ListFile,
-                     "the list can't be read: " + lines.Fault() + "; the field takes any text");
+                     "the list can't be read: " + std::string(lines.Fault()) + "; the field takes any text");
     } else if (lfEnds > 0) {
         findings.Add(Kind::Lost, 1, Sort::LineEnds,
                      "LF alone ends " + Counted(lfEnds, "line") +

@@ -10,7 +10,7 @@ int main(int argc, char *argv[]) {
     std::ios::sync_with_stdio(false);
     const std::vector<std::string> words(argv + (argc > 0 ? 1 : 0), argv + argc);
     const std::string folder = MakeAppRecord(os::ProgramFile()).Path;
-    const int status = modCheck::Main(words, folder, std::cout, std::cerr);
+    const int status = modCheck::Main(words, folder, versionRecord::FileVersion(), std::cout, std::cerr);
     std::cout.flush();
     return std::cout ? status : modCheck::statusImpossible;
 }

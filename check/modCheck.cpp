@@ -1,6 +1,5 @@
 #include "check/modCheck.h"
 
-#include "app/VersionRecord.h"
 #include "check/DataCheck.h"
 #include "check/SpecCheck.h"
 #include "text/Files.h"
@@ -110,14 +109,14 @@ std::string SpecFile(const std::string &pName, const std::string &pProgramFolder
 
 } // namespace
 
-int Main(const std::vector<std::string> &pWords, const std::string &pProgramFolder, std::ostream &pOut,
-         std::ostream &pErrors) {
+int Main(const std::vector<std::string> &pWords, const std::string &pProgramFolder,
+         const std::string &pVersion, std::ostream &pOut, std::ostream &pErrors) {
     if (pWords.size() == 1 && pWords[0] == "--help") {
         pOut << usage;
         return statusGood;
     }
     if (pWords.size() == 1 && pWords[0] == "--version") {
-        pOut << "NorvoCheckDat " << versionRecord::FileVersion() << '\n';
+        pOut << "NorvoCheckDat " << pVersion << '\n';
         return statusGood;
     }
     const std::optional<Request> request = Read(pWords);

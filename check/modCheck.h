@@ -13,8 +13,8 @@ inline constexpr int statusImpossible =
     2; ///< the words are wrong, a file can't be read, or a copy not be made
 
 /// Runs the command with pWords, the words after its name. Findings go to pOut, messages to pErrors. Files of
-/// the specification are also looked for in pProgramFolder.
-int Main(const std::vector<std::string> &pWords, const std::string &pProgramFolder, std::ostream &pOut,
-         std::ostream &pErrors);
+/// the specification are also looked for in pProgramFolder. pVersion is what --version says.
+int Main(const std::vector<std::string> &pWords, const std::string &pProgramFolder,
+         const std::string &pVersion, std::ostream &pOut, std::ostream &pErrors);
 
 } // namespace modCheck

@@ -22,6 +22,13 @@ bool IsFile(const std::string &pPath);
 /// Whether pPath names a folder.
 bool IsFolder(const std::string &pPath);
 
+/// Makes pPath, an empty file, if nothing of that name is there. Returns the reason if it can't, and leaves what is
+/// there alone.
+Reason MakeNewFile(const std::string &pPath);
+
+/// Removes the file pPath, if there is one and the system lets it.
+void RemoveFile(const std::string &pPath);
+
 /// A regular file, open for reading from its start. Anything else (a pipe, a device, a folder) is a fault at
 /// once: the constructor never waits.
 class FileReader {

@@ -89,6 +89,19 @@ bool IsFolder(const std::string &pPath) {
     return StatusOf(pPath, status) && S_ISDIR(status.st_mode);
 }
 
+Reason MakeNewFile(const std::string &pPath) {
+    Reason reason;
+    std::intptr_t handle = Open(NativePath(pPath), O_WRONLY | O_CREAT | O_EXCL);
+    if (handle == noHandle || !GiveBack(handle)) {
+        reason.Words(WordsFor(errno));
+    }
+    return reason;
+}
+
+void RemoveFile(const std::string &pPath) {
+    unlink(NativePath(pPath).c_str());
+}
+
 FileReader::FileReader(const std::string &pPath)
     : myHandle(IsUsable(pPath) ? Open(NativePath(pPath), O_RDONLY) : noHandle) {
     struct stat status {};

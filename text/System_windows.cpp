@@ -131,6 +131,19 @@ bool IsFolder(const std::string &pPath) {
     return HasAny(AttributesOf(Wide(NativePath(pPath))), FILE_ATTRIBUTE_DIRECTORY);
 }
 
+Reason MakeNewFile(const std::string &pPath) {
+    Reason reason;
+    std::intptr_t handle = Open(Wide(NativePath(pPath)), GENERIC_WRITE, FILE_SHARE_READ, CREATE_NEW);
+    if (handle == noHandle || !GiveBack(handle)) {
+        TellLast(reason);
+    }
+    return reason;
+}
+
+void RemoveFile(const std::string &pPath) {
+    DeleteFileW(Wide(NativePath(pPath)).c_str());
+}
+
 FileReader::FileReader(const std::string &pPath) : myHandle(noHandle) {
     const std::wstring path = Wide(NativePath(pPath));
     if (path.empty()) {

@@ -1,6 +1,5 @@
 #include "check/modCheck.h"
 
-#include "app/VersionRecord.h"
 #include "tests/support/TemporaryFolder.h"
 #include "text/Files.h"
 
@@ -26,7 +25,7 @@ public:
             words.push_back(word.find_first_of("/-") == 0 ? word : File(word));
         }
         std::ostringstream out;
-        const int status = modCheck::Main(words, Path(), out, out);
+        const int status = modCheck::Main(words, Path(), "1.2.3", out, out);
         std::string text = std::to_string(status) + "\n" + out.str();
         for (std::size_t at = text.find(Path()); at != std::string::npos; at = text.find(Path())) {
             text.erase(at, Path().size() + 1);
@@ -206,6 +205,18 @@ TEST(CleanCopy, HoldsAllThatWasMeantAndSaysWhatItDid) {
          " 1 record in the file, 0 in the editor\n"
          "new: not written: f: line 1: text follows a closing quote\n",
          ""},
+        {"/to new /csv", "\xFE\xFFx\r\n",
+         "2\n1: lost: the file is in UTF-16, and the editor takes it for UTF-8\n"
+         "1: note: bytes that aren't UTF-8\n"
+         " 1 record in the file, 1 in the editor\n"
+         "new: not written: f: line 1: the file is in UTF-16, and the editor takes it for UTF-8\n",
+         ""},
+        {"/to new", "a,b\r\nc,d\r\n",
+         "2\n1: lost: the file doesn't begin with the number of its records, so none were read. Is it CSV? "
+         "Then say /csv or /csvh.\n"
+         " 1 record in the file, 0 in the editor\n"
+         "new: not written: f: line 1: the first line isn't the numbers of records and columns\n",
+         ""},
         {"/to new", "7,3\r\na,b\r\nc,d,e\r\n",
          "1\n1: lost: the first line announces 7 records, but there are 2\n"
          "1: note: in the copy the numbers of records and columns are counted\n"
@@ -278,12 +289,11 @@ TEST(Check, RefusesWrongWordsAndNeverReplacesAFile) {
         {"/spec a b", "2\n" + usage},
         {"/spec spec /to b", "2\n" + usage},
         {"--help", "0\n" + usage},
-        {"--version", "0\nNorvoCheckDat " + versionRecord::FileVersion() + "\n"},
+        {"--version", "0\nNorvoCheckDat 1.2.3\n"},
         {"none", "2\nnone: No such file or directory\n"},
         {"none spec", "2\nSpecification file: none doesn't exist.\n"},
-        {"cities /TO spec -csv",
-         "2\ncities: 2 records in the file, 2 in the editor\n"
-         "spec: not written: cities: a file of that name can't be made, or is there already\n"}};
+        {"cities /TO spec -csv", "2\ncities: 2 records in the file, 2 in the editor\n"
+                                 "spec: not written: cities: File exists\n"}};
     const CheckFolder folder;
     const std::string before = folder.Read("spec");
     for (const auto &[words, output] : cases) {
