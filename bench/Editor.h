@@ -1,7 +1,7 @@
 #pragma once
 /// The editor without a screen: the main window, loaded for the limit table and ready for the acts of a user.
-#include "check/NoDesktop.h"
 #include "bench/Tables.h"
+#include "check/NoDesktop.h"
 #include "editor/frmMain.h"
 #include "help/frmAbout.h"
 #include "platform/Runtime.h"

@@ -1,7 +1,7 @@
 /// What the user waits for between two keys, and while the window grows: the completion of what is typed, the
 /// check of a text that is left, and the placing of the fields.
-#include "check/NoDesktop.h"
 #include "bench/Passes.h"
+#include "check/NoDesktop.h"
 #include "platform/ComboBox.h"
 #include "platform/Controls.h"
 #include "platform/Runtime.h"

@@ -3,8 +3,8 @@
 /// table_once load FILE: loads a .dat file and ends.
 /// table_once save FILE COPY: loads it, saves it as COPY and ends.
 /// An instruction counter counts a whole run of "load" or "save", so these do nothing else.
-#include "check/NoDesktop.h"
 #include "bench/Tables.h"
+#include "check/NoDesktop.h"
 #include "data/clsDatFile.h"
 #include "platform/Runtime.h"
 

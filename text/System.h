@@ -22,8 +22,8 @@ bool IsFile(const std::string &pPath);
 /// Whether pPath names a folder.
 bool IsFolder(const std::string &pPath);
 
-/// Makes pPath, an empty file, if nothing of that name is there. Returns the reason if it can't, and leaves what is
-/// there alone.
+/// Makes pPath, an empty file, if nothing of that name is there. Returns the reason if it can't, and leaves
+/// what is there alone.
 Reason MakeNewFile(const std::string &pPath);
 
 /// Removes the file pPath, if there is one and the system lets it.

@@ -290,7 +290,7 @@ TEST(Check, RefusesWrongWordsAndNeverReplacesAFile) {
         {"/spec spec /to b", "2\n" + usage},
         {"--help", "0\n" + usage},
         {"--version", "0\nNorvoCheckDat 1.2.3\n"},
-        {"none", "2\nnone: No such file or directory\n"},
+        {"none", "2\nnone: " + std::string(TextInput("none").Fault()) + "\n"},
         {"none spec", "2\nSpecification file: none doesn't exist.\n"},
         {"cities /TO spec -csv", "2\ncities: 2 records in the file, 2 in the editor\n"
                                  "spec: not written: cities: File exists\n"}};

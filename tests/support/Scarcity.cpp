@@ -13,6 +13,9 @@ void *operator new(std::size_t pSize) {
     void *const block = std::malloc(pSize + 1);
     return block == nullptr ? throw std::bad_alloc() : block;
 }
+void *operator new(std::size_t pSize, const std::nothrow_t & /*pHow*/) noexcept {
+    return std::malloc(pSize); // std::stable_sort asks so, and does without.
+}
 void operator delete(void *pBlock) noexcept {
     std::free(pBlock);
 }
