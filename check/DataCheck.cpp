@@ -39,7 +39,7 @@ std::string WithoutName(const std::string &pFault, const std::string &pFile) {
 
 DataCheck::DataCheck(std::int16_t pFmt, const WantedColumns &pWanted, Findings &pFindings, CleanCopy *pCopy)
     : myFmt(pFmt), myWanted(pWanted), myFindings(pFindings), myCopy(pCopy), myLines(pFindings.File()),
-      myUnlisted(pWanted.size()) {}
+      myUnlisted(pWanted) {}
 
 void DataCheck::Run() {
     LoadAsEditor();
@@ -54,16 +54,16 @@ void DataCheck::Run() {
     if (!Fault().empty()) {
         return;
     }
-    ReportLineEnds();
+    myLineEnds.Report(myFindings, myLines.Count());
     ReportSize();
     ReportStop();
-    ReportUnlisted();
+    myUnlisted.Report(myFindings);
     RequireAllShown();
     if (myCopy != nullptr && myBlanks > 0) {
         myCopy->Note(CleanCopy::Act::LeaveOutBlankLines, 1, myBlanks);
     }
-    if (myCopy != nullptr && myLfEnds > 0) {
-        myCopy->Note(CleanCopy::Act::EndLines, myFirstLf, myLfEnds);
+    if (myCopy != nullptr && myLineEnds.LfAlone() > 0) {
+        myCopy->Note(CleanCopy::Act::EndLines, myLineEnds.FirstLf(), myLineEnds.LfAlone());
     }
 }
 
@@ -209,18 +209,6 @@ void DataCheck::CompareTitles(const MeantLine &pLine) {
     }
 }
 
-void DataCheck::ReportLineEnds() {
-    if (myLfEnds == 0) {
-        return;
-    }
-    const bool areAll = myLfEnds == myLines.Count() || (myLfEnds + 1 == myLines.Count() && !myLastEndsInLf);
-    const std::string more = myLfEnds > 1 ? " and " + std::to_string(myLfEnds - 1) + " more" : "";
-    myFindings.Add(
-        Kind::Lost, areAll ? 1 : myFirstLf, Sort::LineEnds,
-        areAll ? "LF alone ends the file's " + Counted(myLfEnds, "line") + ", so the editor reads them as one"
-               : "LF alone ends this line" + more + ", and the editor reads such a line and the next as one");
-}
-
 void DataCheck::ReportSize() {
     if (myFmt != clsDatFile::fmtDat) {
         if (myFirstTooMany > 0) {
@@ -231,7 +219,7 @@ void DataCheck::ReportSize() {
         return;
     }
     const std::string announces = "the first line announces " + Counted(mySize.rows, "record");
-    if (myLfEnds == 0 && myTable.WasRead() && !myTable.Fault().empty()) {
+    if (myLineEnds.LfAlone() == 0 && myTable.WasRead() && !myTable.Fault().empty()) {
         const std::string askForForm = mySize.rows == 0 ? " Is it CSV? Then say /csv or /csvh." : "";
         myFindings.Add(Kind::Lost, 1, Sort::Size,
                        WithoutName(myTable.Fault(), myFindings.File()) + askForForm);
@@ -261,16 +249,6 @@ void DataCheck::ReportStop() {
         const std::size_t lines = myRecords - myStop->recordsBefore;
         myFindings.Add(Kind::Lost, myStop->line, myStop->sort,
                        myStop->why + ", so the table ends before it; " + NotRead(lines));
-    }
-}
-
-void DataCheck::ReportUnlisted() {
-    for (std::size_t col = 0; col < myUnlisted.size(); ++col) {
-        for (const auto &[value, found] : myUnlisted[col]) {
-            myFindings.Add(Kind::Note, found.line, Sort::NotListed,
-                           Quoted(myWanted[col].title) + " has " + Quoted(value) +
-                               ", which isn't in its list, in " + Counted(found.records, "record"));
-        }
     }
 }
 

@@ -5,18 +5,18 @@
 /// function.
 #include "check/CleanCopy.h"
 #include "check/Findings.h"
+#include "check/LineEnds.h"
 #include "check/MeantCells.h"
 #include "check/MeantLines.h"
 #include "check/NoDesktop.h"
+#include "check/UnlistedValues.h"
 #include "check/WantedColumns.h"
 #include "data/clsDatFile.h"
 #include "platform/Runtime.h"
 
 #include <cstdint>
-#include <map>
 #include <optional>
 #include <string>
-#include <unordered_map>
 
 class DataCheck {
 public:
@@ -42,10 +42,6 @@ private:
         std::size_t rows = 0;
         std::size_t cols = 0;
     };
-    struct Unlisted {
-        std::size_t line = 0;
-        std::size_t records = 0;
-    };
     struct Stop {
         std::size_t line;
         Sort sort;
@@ -60,9 +56,7 @@ private:
     void ReportSeparator();
     void CompareTitles(const MeantLine &pLine);
     void ReportSize();
-    void ReportLineEnds();
     void ReportStop();
-    void ReportUnlisted();
     void RequireAllShown();
 
     void TakeLine();
@@ -76,7 +70,6 @@ private:
     void EndTable(std::size_t pLine, Sort pSort, const std::string &pWhy);
     void LookAtBytes(const MeantLine &pLine);
     void LookAtBlanks(const MeantLine &pLine);
-    void LookUp(const TextRow &pWords);
     void GiveToCopy(const TextRow &pWords);
 
     std::int16_t myFmt;
@@ -107,8 +100,6 @@ private:
     std::optional<Stop> myStop;         ///< where reading ended
     std::size_t myFirstBlank = 0;       ///< the line at which blank ones began; 0 when the last wasn't blank
     std::size_t myBlanks = 0;
-    std::size_t myFirstLf = 0;
-    std::size_t myLfEnds = 0;
-    bool myLastEndsInLf = false;
-    std::vector<std::map<std::string, Unlisted>> myUnlisted; ///< by column and value
+    LineEnds myLineEnds;
+    UnlistedValues myUnlisted;
 };

@@ -97,7 +97,7 @@ void DataCheck::TakeLine() {
     LookAtBytes(line);
     LookAtBlanks(line);
     Judge(words);
-    LookUp(words);
+    myUnlisted.LookAt(words, myOrder, line.number);
     if (myCopy != nullptr) {
         GiveToCopy(words);
     }
@@ -144,12 +144,8 @@ void DataCheck::SettleCols(const TextRow &pWords) {
 }
 
 void DataCheck::CountLineEnd(const MeantLine &pLine) {
-    myLastEndsInLf = pLine.endsInLf;
-    if (pLine.endsInLf) {
-        myFirstLf = myLfEnds == 0 ? pLine.number : myFirstLf;
-        ++myLfEnds;
-        myIsReading = false;
-    }
+    myLineEnds.Count(pLine);
+    myIsReading = myIsReading && !pLine.endsInLf;
 }
 
 /// Blank lines matter only where records follow.
@@ -220,21 +216,6 @@ void DataCheck::LookAtBlanks(const MeantLine &pLine) {
     myFindings.Add(Kind::Changed, pLine.number, Sort::Blanks, "blanks at the ends of cells are left out");
     if (myCopy != nullptr) {
         myCopy->Note(CleanCopy::Act::DropBlanks, pLine.number);
-    }
-}
-
-/// Looks up the values of columns that insist on listed ones.
-void DataCheck::LookUp(const TextRow &pWords) {
-    if (std::cmp_not_equal(pWords.Count(), myWanted.size())) {
-        return;
-    }
-    for (std::size_t col = 0; col < myWanted.size(); ++col) {
-        const std::string_view value = pWords(static_cast<int>(myOrder.empty() ? col : myOrder[col]) + 1);
-        if (!myWanted[col].values.empty() && !myWanted[col].values.contains(LCase(value))) {
-            Unlisted &found = myUnlisted[col][std::string(value)];
-            found.line = found.records == 0 ? myLines.Line().number : found.line;
-            ++found.records;
-        }
     }
 }
 

@@ -24,45 +24,54 @@ void MeantCells::End() {
 void MeantCells::Step(char pCharacter) {
     switch (myState) {
     case State::Before:
-        if (pCharacter == '"') {
-            myHasBlanksAtEnds = myHasBlanksAtEnds || !myCell.empty();
-            myCell.clear();
-            myState = State::InQuotes;
-            return;
-        }
-        myState = pCharacter == ' ' ? State::Before : State::InPlain;
-        [[fallthrough]];
     case State::InPlain:
-        if (pCharacter == mySeparator) {
-            EndCell();
-        } else {
-            myCell += pCharacter;
-        }
-        return;
+        StepInPlain(pCharacter);
+        break;
     case State::InQuotes:
-        if (pCharacter == '"') {
-            myWasQuote = true;
-            myState = State::AfterQuote;
-        } else {
-            myCell += pCharacter;
-        }
-        return;
+        StepInQuotes(pCharacter);
+        break;
     case State::AfterQuote:
-        if (pCharacter == '"' && myWasQuote) {
-            myCell += pCharacter;
-            myState = State::InQuotes;
-        } else if (pCharacter == mySeparator) {
-            EndCell();
-        } else if (pCharacter == ' ') {
-            myHasBlanksAtEnds = true;
-        } else {
-            myState = State::Malformed;
-        }
-        myWasQuote = false;
-        return;
+        StepAfterQuote(pCharacter);
+        break;
     case State::Malformed:
-        return;
+        break;
     }
+}
+
+void MeantCells::StepInPlain(char pCharacter) {
+    if (pCharacter == mySeparator) {
+        EndCell();
+    } else if (pCharacter == '"' && myState == State::Before) {
+        myHasBlanksAtEnds = myHasBlanksAtEnds || !myCell.empty();
+        myCell.clear();
+        myState = State::InQuotes;
+    } else {
+        myState = pCharacter == ' ' ? myState : State::InPlain;
+        myCell += pCharacter;
+    }
+}
+
+void MeantCells::StepInQuotes(char pCharacter) {
+    if (pCharacter == '"') {
+        myWasQuote = true;
+        myState = State::AfterQuote;
+    } else {
+        myCell += pCharacter;
+    }
+}
+
+void MeantCells::StepAfterQuote(char pCharacter) {
+    if (pCharacter == '"' && myWasQuote) {
+        myCell += pCharacter;
+        myState = State::InQuotes;
+    } else if (pCharacter == mySeparator) {
+        EndCell();
+    } else if (pCharacter == ' ') {
+        myHasBlanksAtEnds = true;
+    } else {
+        myState = State::Malformed;
+    }
+    myWasQuote = false;
 }
 
 void MeantCells::EndCell() {

@@ -27,6 +27,9 @@ private:
     enum class State { Before, InPlain, InQuotes, AfterQuote, Malformed };
 
     void Step(char pCharacter);
+    void StepInPlain(char pCharacter);
+    void StepInQuotes(char pCharacter);
+    void StepAfterQuote(char pCharacter);
     void EndCell();
 
     char mySeparator = ',';
