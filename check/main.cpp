@@ -8,7 +8,8 @@
 int main(int argc, char *argv[]) {
     os::ReportWriteLimits();
     std::ios::sync_with_stdio(false);
-    const std::vector<std::string> words(argv + (argc > 0 ? 1 : 0), argv + argc);
+    os::PrintUtf8();
+    const std::vector<std::string> words = os::ProgramWords(argc, argv);
     const std::string folder = MakeAppRecord(os::ProgramFile()).Path;
     const int status = modCheck::Main(words, folder, versionRecord::FileVersion(), std::cout, std::cerr);
     std::cout.flush();

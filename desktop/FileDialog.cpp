@@ -1,10 +1,13 @@
+// Qt's own dialog. The desktop's native one, where Qt has it, doesn't keep the rules.
 #include "desktop/FileDialog.h"
 
 #include "desktop/TextCodec.h"
 
 #include <QDialogButtonBox>
 #include <QDir>
+#include <QFileDialog>
 #include <QFileInfo>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QTreeView>
 
@@ -34,7 +37,21 @@ std::string OfferedName(const FileDialogRequest &pRequest, const QDir &pShown) {
     return pRequest.folder.empty() ? "" : pRequest.folder + (needsSlash ? "/" : "") + pRequest.name;
 }
 
-} // namespace
+class FileDialog : public QFileDialog {
+public:
+    FileDialog(QWidget *pParent, const FileDialogRequest &pRequest);
+
+    std::optional<std::string> Ask();
+
+protected:
+    void accept() override;
+
+private:
+    void FitColumns();
+
+    QLineEdit *myNameEdit = nullptr;
+    QString myChosen;
+};
 
 FileDialog::FileDialog(QWidget *pParent, const FileDialogRequest &pRequest) : QFileDialog(pParent) {
     setOptions(DontUseNativeDialog | DontConfirmOverwrite);
@@ -108,4 +125,10 @@ std::optional<std::string> FileDialog::Ask() {
     const QStringList files = selectedFiles();
     const QString chosen = !myChosen.isEmpty() || files.isEmpty() ? myChosen : files.first();
     return FromQt(chosen);
+}
+
+} // namespace
+
+std::optional<std::string> AskForFile(QWidget *pParent, const FileDialogRequest &pRequest) {
+    return FileDialog(pParent, pRequest).Ask();
 }

@@ -1,27 +1,12 @@
 #pragma once
-/// Qt's file dialog by the runtime's rules: one name, whatever its characters. Opening accepts a name that
-/// doesn't exist; saving asks nothing.
+/// A file dialog by the runtime's rules: one name, whatever its characters. Opening accepts a name that
+/// doesn't exist. Saving asks nothing and adds no suffix.
 #include "platform/Desktop.h"
-
-#include <QFileDialog>
-#include <QLineEdit>
 
 #include <optional>
 #include <string>
 
-class FileDialog : public QFileDialog {
-public:
-    FileDialog(QWidget *pParent, const FileDialogRequest &pRequest);
+class QWidget;
 
-    /// Shows the dialog and waits. Returns the chosen path; null if the user dismissed the dialog.
-    std::optional<std::string> Ask();
-
-protected:
-    void accept() override;
-
-private:
-    void FitColumns();
-
-    QLineEdit *myNameEdit = nullptr;
-    QString myChosen;
-};
+/// Shows the dialog over pParent and waits. Returns the chosen path; null if the user dismissed the dialog.
+std::optional<std::string> AskForFile(QWidget *pParent, const FileDialogRequest &pRequest);

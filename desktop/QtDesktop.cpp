@@ -149,9 +149,8 @@ MessageAnswer QtDesktop::Ask(const Message &pMessage) {
 
 std::optional<std::string> QtDesktop::ShowFileDialog(const Form &pForm, const FileDialogRequest &pRequest) {
     Sync();
-    FileDialog dialog(WindowOf(pForm), pRequest);
     const QScopedValueRollback depth(myDepth, myDepth + 1);
-    return dialog.Ask();
+    return AskForFile(WindowOf(pForm), pRequest);
 }
 
 void QtDesktop::ShowForm(Form &pForm) {

@@ -1,6 +1,6 @@
 #pragma once
-/// What the window system has to be told, or asked, past Qt. Only X11 needs that. Elsewhere, and in a build
-/// without its library, these functions do nothing and know nothing.
+/// What the window system has to be told, or asked, past Qt. Where it need not be, and in a build without the
+/// library of X11, these functions do nothing and know nothing.
 #include <QSize>
 
 #include <optional>
@@ -21,3 +21,7 @@ void AskForSize(const QWidget &pWindow, QSize pSize);
 
 /// Whether the user holds the left mouse button down, over the frame of a window too.
 bool IsMouseHeld();
+
+/// Chooses colours and style as the user has chosen the system's, where Qt doesn't by itself. Call it before
+/// there is an application.
+void FollowSystemColours();

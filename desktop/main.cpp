@@ -5,16 +5,19 @@
 #include "desktop/ContrastStyle.h"
 #include "desktop/Look.h"
 #include "desktop/QtDesktop.h"
+#include "desktop/WindowSystem.h"
 #include "platform/Runtime.h"
 #include "text/System.h"
 
 #include <memory>
+#include <optional>
 #include <string>
-#include <vector>
 
 int main(int argc, char *argv[]) {
     os::ReportWriteLimits();
-    const std::string command = CommandText(std::vector<std::string>(argv + (argc > 0 ? 1 : 0), argv + argc));
+    const std::optional<std::string> line = os::CommandLine();
+    const std::string command = line ? *line : CommandText(os::ProgramWords(argc, argv));
+    FollowSystemColours();
 
     // Qt must not see the command line: it would take the words that it knows.
     std::string name(versionRecord::productName);

@@ -16,6 +16,7 @@ foreach(file IN LISTS beside_files)
 endforeach()
 
 if(WIN32)
+    install(FILES LICENSE DESTINATION . RENAME LICENSE.txt)
     return()
 endif()
 

@@ -1,4 +1,4 @@
-# "cpack" makes a Debian package from a build. "cpack --config CPackSourceConfig.cmake" makes an archive of the
+# "cpack" makes a Debian package from a build, and for Windows a zip and an installer. "cpack --config CPackSourceConfig.cmake" makes an archive of the
 # sources.
 
 set(CPACK_PACKAGE_NAME norvo-edit-dat)
@@ -23,6 +23,12 @@ a copy of which nothing is lost.")
 set(CPACK_RESOURCE_FILE_LICENSE "${CMAKE_CURRENT_SOURCE_DIR}/LICENSE")
 set(CPACK_STRIP_FILES ON)
 set(CPACK_VERBATIM_VARIABLES ON)
+
+if(WIN32)
+    include(packaging/windows/package.cmake)
+    include(CPack)
+    return()
+endif()
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)

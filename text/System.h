@@ -5,8 +5,10 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace os {
 
@@ -78,6 +80,15 @@ private:
 
 /// pCharacter in lower case by Unicode's simple mappings, the same on all systems and in every locale.
 char32_t LowerCase(char32_t pCharacter);
+
+/// The words after the program's name on its command line, which main has as pCount and pWords.
+std::vector<std::string> ProgramWords(int pCount, char *pWords[]);
+
+/// The command line after the program's name, as the user wrote it; nothing if the system has only the words.
+std::optional<std::string> CommandLine();
+
+/// Makes a console take what is printed for UTF-8 until the program ends.
+void PrintUtf8();
 
 /// The full path of the running program's file, with links followed; empty if the system won't tell.
 std::string ProgramFile();

@@ -187,6 +187,18 @@ char32_t LowerCase(char32_t pCharacter) {
                               : static_cast<char32_t>(towlower_l(static_cast<wint_t>(pCharacter), unicode));
 }
 
+std::vector<std::string> ProgramWords(int pCount, char *pWords[]) {
+    return {pWords + (pCount > 0 ? 1 : 0), pWords + pCount};
+}
+
+std::optional<std::string> CommandLine() {
+    return std::nullopt; // The shell has made words of it.
+}
+
+void PrintUtf8() {
+    // Bytes go out as they are.
+}
+
 std::string ProgramFile() {
     std::string path(PATH_MAX, '\0');
     const ssize_t length = readlink("/proc/self/exe", path.data(), path.size());

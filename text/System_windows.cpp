@@ -3,6 +3,8 @@
 #include "text/CaseTable.h"
 
 #include <algorithm>
+#include <cstdlib>
+#include <cwchar>
 #include <limits>
 #include <utility>
 
@@ -11,6 +13,8 @@
 #endif
 #define WIN32_LEAN_AND_MEAN
 #include <windows.h>
+
+#include <shellapi.h>
 
 namespace {
 
@@ -23,6 +27,13 @@ std::wstring Wide(const std::string &pText) {
     const bool fits = pText.size() <= static_cast<std::size_t>(std::numeric_limits<int>::max());
     if (pText.empty() || !fits || pText.find('\0') != std::string::npos) {
         return {};
+    }
+    if (pText.ends_with('.') || pText.ends_with(' ')) {
+        // The system would leave it out, and so name another file. Only "." and ".." mean something.
+        const std::string_view last = std::string_view(pText).substr(pText.find_last_of('/') + 1);
+        if (last != "." && last != "..") {
+            return {};
+        }
     }
     const int size = static_cast<int>(pText.size());
     std::wstring wide(pText.size(), L'\0'); // UTF-16 never has more units than UTF-8 has bytes.
@@ -194,17 +205,15 @@ FileWriter::FileWriter(const std::string &pPath) : myHandle(noHandle) {
         TellLast(myFault);
         return;
     }
-    const DWORD kind = GetFileType(Native(myHandle));
-    if (kind != FILE_TYPE_DISK && kind != FILE_TYPE_CHAR) {
-        myFault.Words("Not a regular file");
+    if (GetFileType(Native(myHandle)) != FILE_TYPE_DISK) {
+        myFault.Words("Not a regular file"); // A device, such as "NUL", which has its name in every folder.
         return;
     }
-    const bool hasContent = kind == FILE_TYPE_DISK; // A device has no content.
-    const bool isEmpty = !hasContent || SetEndOfFile(Native(myHandle)) != 0;
+    const bool isEmpty = SetEndOfFile(Native(myHandle)) != 0;
     if (!isEmpty) {
         TellLast(myFault);
     }
-    myWasEmptied = isEmpty ? hasContent : !wasThere;
+    myWasEmptied = isEmpty || !wasThere;
 }
 
 FileWriter::~FileWriter() {
@@ -225,14 +234,41 @@ void FileWriter::Write(std::string_view pBytes) {
 }
 
 void FileWriter::Close() {
-    const bool isDevice = !myWasEmptied; // A device has nothing to flush.
-    if (Fault().empty() && ((!isDevice && !Flush(Native(myHandle))) || !GiveBack(myHandle))) {
+    if (Fault().empty() && (!Flush(Native(myHandle)) || !GiveBack(myHandle))) {
         TellLast(myFault);
     }
 }
 
 char32_t LowerCase(char32_t pCharacter) {
     return LowerCaseByTable(pCharacter);
+}
+
+std::vector<std::string> ProgramWords(int /*pCount*/, char * /*pWords*/[]) {
+    // Those that main has are in the system's code page, which may lack characters of the names.
+    int count = 0;
+    wchar_t **const wide = CommandLineToArgvW(GetCommandLineW(), &count);
+    std::vector<std::string> words;
+    for (int place = 1; place < count; ++place) {
+        words.push_back(Utf8(wide[place], std::wcslen(wide[place])));
+    }
+    LocalFree(wide);
+    return words;
+}
+
+std::optional<std::string> CommandLine() {
+    const std::wstring_view line = GetCommandLineW();
+    // The program's name ends at a blank or a tab, or at its second quotation mark (Microsoft C++ reference,
+    // "main function and command-line arguments").
+    const bool isQuoted = line.starts_with(L'"');
+    const std::size_t end = isQuoted ? line.find(L'"', 1) : line.find_first_of(L" \t");
+    const std::size_t from = end == std::wstring_view::npos ? line.size() : end + 1;
+    return Utf8(line.data() + from, line.size() - from);
+}
+
+void PrintUtf8() {
+    static const UINT before = GetConsoleOutputCP();
+    SetConsoleOutputCP(CP_UTF8);
+    std::atexit([] { SetConsoleOutputCP(before); });
 }
 
 std::string ProgramFile() {

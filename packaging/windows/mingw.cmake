@@ -13,5 +13,4 @@ set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 
 # Without a screen, programs for Windows run under Wine.
-get_filename_component(top "${CMAKE_CURRENT_LIST_DIR}" DIRECTORY)
-set(CMAKE_CROSSCOMPILING_EMULATOR "${top}/tools/wine")
+set(CMAKE_CROSSCOMPILING_EMULATOR "${CMAKE_CURRENT_LIST_DIR}/../../tools/wine")

@@ -1,6 +1,5 @@
+// X11.
 #include "desktop/WindowSystem.h"
-
-#ifdef NORVO_XCB
 
 #include <QGuiApplication>
 #include <QWidget>
@@ -117,18 +116,4 @@ bool IsMouseHeld() {
     return reply != nullptr && (reply->mask & XCB_BUTTON_MASK_1) != 0;
 }
 
-#else
-
-void StandAlone(const QWidget & /*pWindow*/) {}
-
-std::optional<QSize> SizeOnScreen(const QWidget & /*pWindow*/) {
-    return std::nullopt;
-}
-
-void AskForSize(const QWidget & /*pWindow*/, QSize /*pSize*/) {}
-
-bool IsMouseHeld() {
-    return false;
-}
-
-#endif
+void FollowSystemColours() {}

@@ -1,0 +1,16 @@
+// Systems that need not be told more than Qt tells them.
+#include "desktop/WindowSystem.h"
+
+void StandAlone(const QWidget & /*pWindow*/) {}
+
+std::optional<QSize> SizeOnScreen(const QWidget & /*pWindow*/) {
+    return std::nullopt;
+}
+
+void AskForSize(const QWidget & /*pWindow*/, QSize /*pSize*/) {}
+
+bool IsMouseHeld() {
+    return false;
+}
+
+void FollowSystemColours() {}

@@ -1,0 +1,34 @@
+# Gives programs for Windows their icon, manifest and version record, which app/VersionRecord.h holds.
+
+enable_language(RC)
+
+foreach(field IN ITEMS comments companyName fileDescription legalCopyright productName)
+    file(STRINGS "${version_record}" line REGEX " ${field} = \"" LIMIT_COUNT 1 ENCODING UTF-8)
+    if(NOT line MATCHES "= \"([^\"]*)\"")
+        message(FATAL_ERROR "app/VersionRecord.h does not set ${field} to a text.")
+    endif()
+    set(record_${field} "${CMAKE_MATCH_1}")
+endforeach()
+
+# As versionRecord::FileVersion writes it.
+string(LENGTH "${version_Minor}" minor_length)
+string(LENGTH "${version_Revision}" revision_length)
+math(EXPR minor_zeros "2 - ${minor_length}")
+math(EXPR revision_zeros "4 - ${revision_length}")
+string(REPEAT "0" ${minor_zeros} minor_zeros)
+string(REPEAT "0" ${revision_zeros} revision_zeros)
+set(record_version "${version_Major}.${minor_zeros}${version_Minor}.${revision_zeros}${version_Revision}")
+
+function(add_windows_resources target description)
+    set(internal_name ${target})
+    set(icon "${CMAKE_CURRENT_SOURCE_DIR}/packaging/windows/norvo-editdat.ico")
+    set(manifest "${CMAKE_CURRENT_SOURCE_DIR}/packaging/windows/program.manifest")
+    configure_file(packaging/windows/program.rc.in ${target}.rc @ONLY)
+    target_sources(${target} PRIVATE "${CMAKE_CURRENT_BINARY_DIR}/${target}.rc")
+    set_property(SOURCE "${CMAKE_CURRENT_BINARY_DIR}/${target}.rc" PROPERTY OBJECT_DEPENDS "${icon};${manifest}")
+endfunction()
+
+add_windows_resources(NorvoCheckDat "Checker of Norvo data files")
+if(TARGET NorvoEditDat)
+    add_windows_resources(NorvoEditDat "${record_fileDescription}")
+endif()
