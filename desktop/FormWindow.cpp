@@ -196,13 +196,8 @@ void FormWindow::ResizeToForm() {
 }
 
 void FormWindow::FollowForm() {
-    const QSize given = myClient->size();
-    if (State() != Form::stateNormal || given == WantedClient()) {
-        return;
-    }
-    // A window system that insists on a size gives it again at once. Answering each time would never end.
-    if (!myIsReady || given != myCorrected) {
-        myCorrected = myIsReady ? given : QSize();
+    // While the window system gives sizes, an answer to each would confuse the two. Settled gives one.
+    if (State() == Form::stateNormal && myClient->size() != WantedClient() && !mySettling.isActive()) {
         ResizeToForm();
     }
 }
@@ -212,7 +207,7 @@ void FormWindow::Settled() {
         mySettling.start(); // A window manager may drop what it is asked during a drag.
         return;
     }
-    // At the end of a drag the window system may give the last size once more, after it was corrected.
+    // A window system that insists on a size gives it again. Answering each time would never end.
     const QSize given = SizeOnScreen(*this).value_or(size());
     const bool isOff = State() == Form::stateNormal && given != WantedSize();
     if (isOff && !myHasAskedAgain) {
@@ -223,7 +218,6 @@ void FormWindow::Settled() {
         return;
     }
     myHasAskedAgain = false;
-    myCorrected = QSize();
 }
 
 void FormWindow::ReportSize() {

@@ -74,7 +74,6 @@ private:
     bool myIsReady = false;
     bool myIsRetired = false;
     int myShownRevision = 0;
-    QSize myCorrected; ///< the size from the window system that was corrected last
     bool myHasAskedAgain = false;
     QTimer mySettling;
 };

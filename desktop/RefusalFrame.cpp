@@ -2,6 +2,19 @@
 
 #include <QPainter>
 
+// Some styles leave a focus frame only what lies outside the field.
+
+bool RefusalFrame::eventFilter(QObject *pWatched, QEvent *pEvent) {
+    const bool isTaken = QFocusFrame::eventFilter(pWatched, pEvent);
+    clearMask();
+    return isTaken;
+}
+
+void RefusalFrame::showEvent(QShowEvent *pEvent) {
+    QFocusFrame::showEvent(pEvent);
+    clearMask();
+}
+
 void RefusalFrame::paintEvent(QPaintEvent * /*pEvent*/) {
     constexpr int thickness = 3;
     constexpr QColor onLight(0xC4, 0x1E, 0x1E);

@@ -8,5 +8,7 @@ public:
     explicit RefusalFrame(QWidget &pField) : QFocusFrame(&pField) { hide(); }
 
 protected:
+    bool eventFilter(QObject *pWatched, QEvent *pEvent) override;
+    void showEvent(QShowEvent *pEvent) override;
     void paintEvent(QPaintEvent *pEvent) override;
 };

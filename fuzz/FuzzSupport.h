@@ -6,18 +6,19 @@
 #include "check/NoDesktop.h"
 #include "data/clsDatFile.h"
 #include "platform/Runtime.h"
+#include "text/System.h"
 
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <optional>
+#include <random>
 #include <string>
 #include <string_view>
 #include <vector>
-
-#include <sys/mman.h>
 
 /// Checks that the laws of the target hold for pBytes, which may be any bytes.
 void RequireLaws(std::string_view pBytes);
@@ -46,12 +47,23 @@ inline Words WordsOf(const TextRow &pRow) {
     return words;
 }
 
-/// A table with a file of its own. The file is in memory: on a disk it would take most of the fuzzer's time.
+/// A name for a file of the fuzzer's own, in memory where the system has a folder for that: on a disk it
+/// would take most of the time.
+inline std::string OwnFile() {
+    const std::filesystem::path memory = "/dev/shm";
+    const std::filesystem::path folder =
+        is_directory(memory) ? memory : std::filesystem::temp_directory_path();
+    return (folder / ("norvo_fuzz_" + std::to_string(std::random_device{}()))).string();
+}
+
+/// A table with a file of its own.
 struct TableProbe {
     TableProbe() {
-        table.FileName("/proc/self/fd/" + std::to_string(memfd_create("norvo_fuzz", MFD_CLOEXEC)));
+        table.FileName(OwnFile());
         table.Headers({"plain", "a \"quoted\", title", ""});
     }
+
+    ~TableProbe() { os::RemoveFile(table.FileName()); }
 
     /// Fills the file with pBytes and loads it. If that ends the program, returns the message that the user
     /// was shown, else nothing.

@@ -6,8 +6,6 @@
 #include "editor/SpecColumns.h"
 #include "fuzz/FuzzSupport.h"
 
-#include <unistd.h>
-
 namespace {
 
 std::vector<Words> RowsOf(const CleanCopy &pCopy) {
@@ -33,7 +31,7 @@ std::vector<Words> RowsOf(std::string_view pBytes, const char *pLineEnd, std::in
 
 void RequireWholeCopy(CleanCopy &pCopy, std::int16_t pFmt, const WantedColumns &pWanted) {
     static TableProbe probe;
-    static const std::string file = "/dev/shm/norvo_fuzz_" + std::to_string(getpid());
+    static const std::string file = OwnFile();
     pCopy.Write(file);
     Require(pCopy.Fault().empty() != Dir(file).empty(), "there is a copy or a fault");
     Require(pCopy.Fault() != "it did not come back as it was written", "a copy comes back as it was written");

@@ -198,6 +198,10 @@ FileWriter::FileWriter(const std::string &pPath) : myHandle(noHandle) {
         myFault.Words("Is a folder");
         return;
     }
+    if (HasAny(attributes, FILE_ATTRIBUTE_READONLY)) {
+        Tell(myFault, ERROR_ACCESS_DENIED); // Some file systems would let an administrator write it.
+        return;
+    }
     const bool wasThere = attributes != INVALID_FILE_ATTRIBUTES;
     // Not CREATE_ALWAYS: it refuses to empty a hidden file, and it empties before the kind is known.
     myHandle = Open(path, GENERIC_WRITE, FILE_SHARE_READ, OPEN_ALWAYS);

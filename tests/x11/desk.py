@@ -18,15 +18,13 @@ gi.require_version("Atspi", "2.0")
 sys.path.append(str(pathlib.Path(__file__).resolve().parents[2]))
 
 from gi.repository import Atspi
+from tools import hands
 from tools.screen import TIMEOUT, Screen, until
 
 warnings.simplefilter("ignore", DeprecationWarning)  # the names that Debian 12's bindings still need
 
 TITLE = "Norvo Data File Editor"
-
-
-def run(*words):
-    return subprocess.run(words, check=True, capture_output=True, text=True, timeout=TIMEOUT).stdout.strip()
+run = hands.run
 
 
 class Desk:
@@ -69,29 +67,12 @@ class Desk:
 
     # --- windows and keys
 
-    def focus(self, title):
-        """Waits until the window of that title has the keyboard, and returns its X id."""
-        def number():
-            found = subprocess.run(["xdotool", "getactivewindow", "getwindowname", "getactivewindow"],
-                                   capture_output=True, text=True).stdout.splitlines()
-            return found[1] if found[:1] == [title] else None
-        return until(number, "the window %r in front" % title)
-
-    def key(self, *keys):
-        """Presses keys and lets them go: +a only goes down, -a only comes up."""
-        for one in keys:
-            run("xdotool", {"+": "keydown", "-": "keyup"}.get(one[0], "key"), one.lstrip("+-"))
-
-    def type(self, text):
-        run("xdotool", "type", "--delay", "20", "--", text)
+    focus, key, type = map(staticmethod, (hands.focus, hands.key, hands.type_text))
 
     def click(self, node, times=1):
         """Clicks the middle of an accessible object."""
         box = node.get_component_iface().get_extents(Atspi.CoordType.SCREEN)
-        # The server handles these in order. Waiting for the motion (--sync) takes long if the pointer is there
-        # already.
-        run("xdotool", "mousemove", str(box.x + box.width // 2), str(box.y + box.height // 2),
-            "click", "--repeat", str(times), "--delay", "40", "1")
+        hands.click(box.x + box.width // 2, box.y + box.height // 2, times)
 
     # --- what a screen reader reads
 
@@ -138,17 +119,7 @@ class Desk:
         child.clear_cache()
         return child.get_name()
 
-    def expect(self, actual, wanted, what):
-        """Waits until actual() gives wanted."""
-        seen = []
-
-        def equal():
-            seen[:] = [actual()]
-            return seen[0] == wanted
-        try:
-            until(equal, what)
-        except AssertionError:
-            raise AssertionError("%s: %r, wanted %r" % (what, seen[0], wanted)) from None
+    expect = staticmethod(hands.expect)
 
 
 def main(session):

@@ -1,0 +1,90 @@
+#include "tests/support/TemporaryFolder.h"
+#include "text/Files.h"
+
+#include <gtest/gtest.h>
+
+#define WIN32_LEAN_AND_MEAN
+#include <windows.h>
+
+namespace {
+
+/// Writes pText to pFile. Returns whether that went well.
+bool Write(const std::string &pFile, const std::string &pText) {
+    os::FileWriter file(pFile);
+    file.Write(pText);
+    file.Close();
+    return file.Fault().empty();
+}
+
+/// What pFile holds, or why it can't be read.
+std::string Read(const std::string &pFile) {
+    TextInput file(pFile);
+    const std::string line(file.LineInput());
+    return file.Fault().empty() ? line : "(" + std::string(file.Fault()) + ")";
+}
+
+bool CanBeRead(const std::string &pFile) {
+    return !Read(pFile).starts_with('(');
+}
+
+TEST(WindowsFiles, HaveAnyNameThatTheSystemHas) {
+    const TemporaryFolder folder;
+    for (const std::string &name :
+         {std::string("plain.dat"), std::string("日本 ŝ.dat"), std::string("a~b.dat")}) {
+        EXPECT_TRUE(Write(folder.File(name), name));
+        EXPECT_EQ(Dir(folder.File(name)), name);
+        EXPECT_EQ(Read(folder.File(name)), name);
+    }
+    std::string deep = folder.File("deep");
+    for (int level = 0; level < 10; ++level) {
+        ASSERT_TRUE(std::filesystem::create_directory(std::filesystem::u8path(deep)));
+        deep += "\\a folder with a name of forty characters.";
+        deep.back() = 'x';
+    }
+    ASSERT_TRUE(Write(deep, "deep")) << "names may have more than 260 characters";
+    EXPECT_EQ(Read(deep), "deep");
+    EXPECT_EQ(Read("\\\\?\\" + std::filesystem::absolute(folder.File("plain.dat")).make_preferred().string()),
+              "plain.dat");
+}
+
+TEST(WindowsFiles, ThatAreHiddenAreNotFoundButAreOpened) {
+    const TemporaryFolder folder;
+    for (const DWORD attribute : {FILE_ATTRIBUTE_HIDDEN, FILE_ATTRIBUTE_SYSTEM}) {
+        const std::string file = folder.File("f" + std::to_string(attribute));
+        Write(file, "kept");
+        SetFileAttributesA(file.c_str(), attribute);
+        EXPECT_EQ(Dir(file), "");
+        EXPECT_EQ(Read(file), "kept");
+        EXPECT_TRUE(Write(file, "new")) << "a save goes over it all the same";
+        EXPECT_EQ(Read(file), "new");
+    }
+    EXPECT_EQ(Dir(folder.File("")), "");
+    EXPECT_TRUE(os::IsFolder(folder.File("")));
+}
+
+TEST(WindowsFiles, ThatCannotBeWrittenAreLeftAlone) {
+    const TemporaryFolder folder;
+    const std::string file = folder.File("file.dat");
+    Write(file, "kept");
+    for (const std::string &name :
+         {file + ".", file + " ", file + "\\below", folder.File(""), folder.File("a*b"), std::string("NUL"),
+          std::string("Q:\\gone.dat"), std::string("\\\\nobody\\share\\f.dat"), std::string("a\0b", 3),
+          std::string("\xFF.dat")}) {
+        EXPECT_FALSE(Write(name, "lost")) << name;
+        EXPECT_FALSE(CanBeRead(name)) << name;
+    }
+    SetFileAttributesA(file.c_str(), FILE_ATTRIBUTE_READONLY);
+    EXPECT_FALSE(Write(file, "lost"));
+    SetFileAttributesA(file.c_str(), FILE_ATTRIBUTE_NORMAL);
+    const HANDLE held =
+        CreateFileA(file.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    EXPECT_FALSE(Write(file, "lost")) << "another program has it open";
+    EXPECT_FALSE(CanBeRead(file));
+    CloseHandle(held);
+    EXPECT_EQ(Read(file), "kept");
+    EXPECT_EQ(os::MakeNewFile(file).Words().empty(), false);
+    os::RemoveFile(file);
+    EXPECT_EQ(os::MakeNewFile(file).Words(), "");
+}
+
+} // namespace
