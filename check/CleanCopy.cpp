@@ -6,6 +6,7 @@
 #include "data/modGetWords.h"
 #include "platform/Runtime.h"
 #include "text/Files.h"
+#include "text/Memory.h"
 #include "text/Text.h"
 
 #include <algorithm>
@@ -64,7 +65,7 @@ void CleanCopy::Note(Act pAct, std::size_t pLine, std::size_t pLines) {
 
 void CleanCopy::Refuse(std::size_t pLine, const std::string &pWhy) {
     if (myFault.empty()) {
-        myFault = "line " + std::to_string(pLine) + ": " + pWhy;
+        myFault = (pLine > 0 ? "line " + std::to_string(pLine) + " of the file: " : "") + pWhy;
     }
 }
 
@@ -103,10 +104,8 @@ bool CleanCopy::HasRoom(std::size_t pLine) {
 
 void CleanCopy::Header(std::size_t pLine, const MeantCells &pTitles) {
     myTitles = pTitles.All();
+    myTitlesLine = pLine;
     myCols = myWanted.empty() ? myTitles.size() : myWanted.size();
-    if (pTitles.HasBlanksAtEnds()) {
-        Note(Act::DropBlanks, pLine);
-    }
     if (!MakeFit(pLine, myTitles)) {
         return;
     }
@@ -114,6 +113,14 @@ void CleanCopy::Header(std::size_t pLine, const MeantCells &pTitles) {
     if (!myOrder.empty()) {
         myTitles = TitlesOf(myWanted);
         Note(Act::Reorder, pLine);
+    }
+}
+
+void CleanCopy::Cols(std::size_t pCols) {
+    myCols = pCols;
+    if (myTitlesLine > 0 && myTitles.size() < myCols) {
+        Note(Act::Fill, myTitlesLine);
+        myTitles.resize(myCols);
     }
 }
 
@@ -162,6 +169,17 @@ void CleanCopy::Write(const std::string &pFile) {
     if (!myFault.empty()) {
         return; // Nothing has been made, and what may be there is somebody's.
     }
+    bool isWritten = false;
+    const bool hasMemory = HasMemoryFor([&] { isWritten = Fill(pFile); });
+    if (!isWritten) {
+        os::RemoveFile(pFile);
+    }
+    if (!hasMemory) {
+        myFault = "there is not enough memory";
+    }
+}
+
+bool CleanCopy::Fill(const std::string &pFile) {
     NoDesktop desktop;
     const Runtime runtime(desktop, {}, "");
     clsDatFile table(runtime);
@@ -179,9 +197,7 @@ void CleanCopy::Write(const std::string &pFile) {
     if (myFault.empty() && !ReadsBack(pFile)) {
         myFault = "it did not come back as it was written";
     }
-    if (!myFault.empty()) {
-        os::RemoveFile(pFile);
-    }
+    return myFault.empty();
 }
 
 /// Whether pFile has exactly the records of the copy: line by line, as the editor reads them.

@@ -33,8 +33,9 @@ public:
     /// The copy has the form pFmt, one of clsDatFile's.
     CleanCopy(std::int16_t pFmt, const WantedColumns &pWanted) : myFmt(pFmt), myWanted(pWanted) {}
 
-    /// The number of columns. Call it before the first record; Header does so too.
-    void Cols(std::size_t pCols) { myCols = pCols; }
+    /// The number of columns. Call it before the first record; Header does so too. Titles that are too few
+    /// get empty ones after them.
+    void Cols(std::size_t pCols);
     std::size_t Cols() const { return myCols; }
 
     /// The titles, in the header line pLine.
@@ -47,7 +48,7 @@ public:
     /// Counts pLine among the lines to which pAct was done.
     void Note(Act pAct, std::size_t pLine, std::size_t pLines = 1);
 
-    /// There can be no copy, because of pWhy in line pLine.
+    /// There can be no copy, because of pWhy in line pLine; 0 if it is about no line.
     void Refuse(std::size_t pLine, const std::string &pWhy);
     /// Why there is no copy. Empty if there is, or can be.
     const std::string &Fault() const { return myFault; }
@@ -68,6 +69,7 @@ private:
 
     bool MakeFit(std::size_t pLine, std::vector<std::string> &pCells);
     bool HasRoom(std::size_t pLine);
+    bool Fill(const std::string &pFile);
     bool ReadsBack(const std::string &pFile) const;
     TextRow InOrder(const std::vector<std::string> &pCells) const;
 
@@ -75,6 +77,7 @@ private:
     const WantedColumns &myWanted;
     std::size_t myCols = 0;
     std::vector<std::string> myTitles;
+    std::size_t myTitlesLine = 0;     ///< 0 without titles
     std::vector<std::size_t> myOrder; ///< where the copy's columns were; empty when they stay
     std::vector<TextRow> myRows;
     std::array<Done, static_cast<std::size_t>(Act::Count)> myDone;

@@ -10,12 +10,6 @@ namespace {
 
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 
-/// One number of the first line of a .dat file; 0 if it is none.
-std::size_t SizeNumber(std::string_view pText) {
-    const std::int16_t number = WholeTextInteger(pText).value_or(0);
-    return number > 0 ? static_cast<std::size_t>(number) : 0;
-}
-
 /// Whether pText is made of numbers only, and so isn't a record.
 bool IsSizeLine(std::string_view pText) {
     return pText.find_first_not_of("0123456789+-.,;\t \"") == std::string_view::npos;
@@ -127,9 +121,14 @@ void DataCheck::TakeSizeLine() {
     if (myCopy != nullptr && !IsSizeLine(text)) {
         myCopy->Refuse(line.number, "the first line isn't the numbers of records and columns");
     }
-    if (line.endsInLf && comma != std::string_view::npos) {
+    myHasNumbers = comma != std::string_view::npos && IsSizeLine(text);
+    if (line.endsInLf && myHasNumbers) {
         // The editor makes nothing of it. As it was meant, it may still be right.
-        mySize = {SizeNumber(text.substr(0, comma)), SizeNumber(text.substr(comma + 1))};
+        const std::int16_t rows = WholeTextInteger(text.substr(0, comma)).value_or(-1);
+        const std::int16_t cols = WholeTextInteger(text.substr(comma + 1)).value_or(0);
+        if (rows >= 0 && cols > 0) {
+            mySize = {static_cast<std::size_t>(rows), static_cast<std::size_t>(cols)};
+        }
     } else if (myTable.Cols() > 0 && myTable.Rows() >= 0) {
         mySize = {static_cast<std::size_t>(myTable.Rows()), static_cast<std::size_t>(myTable.Cols())};
     }
@@ -148,6 +147,8 @@ void DataCheck::TakeHeader() {
     const MeantLine &line = myLines.Line();
     CountLineEnd(line);
     LookAtBytes(line);
+    myHasCells = true;
+    LookAtBlanks(line);
     if (line.text.find('\r') != std::string_view::npos) {
         myFindings.Add(
             Kind::Lost, line.number, Sort::CrInQuotes,
@@ -165,7 +166,7 @@ void DataCheck::TakeHeader() {
         CompareTitles(line);
     }
     if (myCopy != nullptr) {
-        if (myIsUnclosed || myCells.HasTextAfterQuote()) {
+        if (IsMalformed()) {
             myCopy->Refuse(line.number, "the quotes of the titles don't match");
         }
         myCopy->Header(line.number, myCells);
@@ -224,9 +225,11 @@ void DataCheck::ReportSize() {
         myFindings.Add(Kind::Lost, 1, Sort::Size,
                        WithoutName(myTable.Fault(), myFindings.File()) + askForForm);
     } else if (mySize.cols == 0) {
+        const std::string what = myHasNumbers ? "announces what no table can have"
+                                              : "isn't two numbers, of the records and of the columns";
         myFindings.Add(Kind::Lost, 1, Sort::Size,
-                       "the first line isn't two numbers, of the records and of the columns, so the editor "
-                       "refuses the file. Is it CSV? Then say /csv or /csvh.");
+                       "the first line " + what +
+                           ", so the editor refuses the file. Is it CSV? Then say /csv or /csvh.");
     } else if (mySize.rows < myRecords) {
         myFindings.Add(Kind::Lost, myFirstUnannounced, Sort::Size,
                        announces + ", so from here on " + NotRead(myRecords - mySize.rows));
@@ -247,8 +250,11 @@ void DataCheck::ReportSize() {
 void DataCheck::ReportStop() {
     if (myStop) {
         const std::size_t lines = myRecords - myStop->recordsBefore;
-        myFindings.Add(Kind::Lost, myStop->line, myStop->sort,
-                       myStop->why + ", so the table ends before it; " + NotRead(lines));
+        // A .dat keeps the number of records that it announces.
+        const bool areEmpty = std::cmp_greater(myTable.Rows(), myRowsRead);
+        const std::string ends =
+            areEmpty ? ", so the editor has empty records from here on; " : ", so the table ends before it; ";
+        myFindings.Add(Kind::Lost, myStop->line, myStop->sort, myStop->why + ends + NotRead(lines));
     }
 }
 

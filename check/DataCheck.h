@@ -37,7 +37,7 @@ public:
     const clsDatFile &Table() const { return myTable; }
 
 private:
-    /// The two numbers that the first line of a .dat file announces; 0 for what isn't one.
+    /// The two numbers that the first line of a .dat file announces; no columns if they can't be used.
     struct Size {
         std::size_t rows = 0;
         std::size_t cols = 0;
@@ -65,11 +65,14 @@ private:
     void SettleCols(const TextRow &pWords);
     void CountLineEnd(const MeantLine &pLine);
     void ReportBlankLines();
+    /// Whether nobody can tell the cells of the line, which are in myCells.
+    bool IsMalformed() const { return myIsUnclosed || myCells.HasTextAfterQuote(); }
     std::size_t FieldsOf(const TextRow &pWords) const;
     void Judge(const TextRow &pWords);
     void EndTable(std::size_t pLine, Sort pSort, const std::string &pWhy);
     void LookAtBytes(const MeantLine &pLine);
     void LookAtBlanks(const MeantLine &pLine);
+    void LookUp(const TextRow &pWords);
     void GiveToCopy(const TextRow &pWords);
 
     std::int16_t myFmt;
@@ -90,6 +93,7 @@ private:
     TextRowRoom myRoom;
     char mySeparator = '\0';
     Size mySize;
+    bool myHasNumbers = false;        ///< the first line of a .dat is numbers, whatever they are
     std::size_t myTitles = 0;         ///< in the header line
     std::vector<std::size_t> myOrder; ///< where the wanted columns are, when the titles are in another order
     std::size_t myCols = 0;           ///< fields that a line should have

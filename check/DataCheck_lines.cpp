@@ -97,7 +97,7 @@ void DataCheck::TakeLine() {
     LookAtBytes(line);
     LookAtBlanks(line);
     Judge(words);
-    myUnlisted.LookAt(words, myOrder, line.number);
+    LookUp(words);
     if (myCopy != nullptr) {
         GiveToCopy(words);
     }
@@ -132,8 +132,13 @@ void DataCheck::SettleCols(const TextRow &pWords) {
     const std::size_t found = isDat ? mySize.cols : FieldsOf(pWords);
     const std::size_t unwanted = found > 0 ? found : std::max<std::size_t>(myTitles, meant);
     myCols = myWanted.empty() ? unwanted : myWanted.size();
-    if (myCopy != nullptr && myTitles == 0) {
-        myCopy->Cols(myWanted.empty() ? meant : myWanted.size());
+    if (myCopy != nullptr) {
+        myCopy->Cols(myWanted.empty() ? std::max(meant, myTitles) : myWanted.size());
+    }
+    if (myWanted.empty() && myTitles > 0 && found > 0 && found != myTitles) {
+        myFindings.Add(Kind::Changed, 1, Sort::Titles,
+                       "the header line has " + Counted(myTitles, "field") + " and the first record " +
+                           std::to_string(found));
     }
     if (!myWanted.empty() && !isDat && found > 0 && found != myWanted.size()) {
         myFindings.Add(Kind::Lost, line.number, Sort::Columns,
@@ -150,10 +155,10 @@ void DataCheck::CountLineEnd(const MeantLine &pLine) {
 
 /// Blank lines matter only where records follow.
 void DataCheck::ReportBlankLines() {
-    if (myFirstBlank > 0) {
+    for (; myFirstBlank > 0 && myFirstBlank < myLines.Line().number; ++myFirstBlank) {
         EndTable(myFirstBlank, Sort::BlankLine, "the line is blank");
-        myFirstBlank = 0;
     }
+    myFirstBlank = 0;
 }
 
 /// How many fields the line has: as the editor counts them, or as they were meant if no commas separate them.
@@ -161,7 +166,7 @@ std::size_t DataCheck::FieldsOf(const TextRow &pWords) const {
     if (mySeparator == ',') {
         return static_cast<std::size_t>(pWords.Count());
     }
-    return myIsUnclosed || myCells.HasTextAfterQuote() ? 0 : myCells.All().size();
+    return IsMalformed() ? 0 : myCells.All().size();
 }
 
 /// Tells whether the line would end the table, and why.
@@ -219,6 +224,22 @@ void DataCheck::LookAtBlanks(const MeantLine &pLine) {
     }
 }
 
+/// Looks up the values of the line, as they were meant if the editor doesn't see all of them.
+void DataCheck::LookUp(const TextRow &pWords) {
+    if (std::cmp_equal(pWords.Count(), myWanted.size()) || !myHasCells || IsMalformed()) {
+        myUnlisted.LookAt(pWords, myOrder, myLines.Line().number);
+        return;
+    }
+    std::vector<std::string> cells = myCells.All();
+    while (cells.size() > myWanted.size() && cells.back().empty()) {
+        cells.pop_back();
+    }
+    cells.resize(std::max(cells.size(), myWanted.size()));
+    std::transform(cells.begin(), cells.end(), cells.begin(),
+                   [](const std::string &pCell) { return std::string(Trim(pCell)); });
+    myUnlisted.LookAt(TextRow(cells), myOrder, myLines.Line().number);
+}
+
 void DataCheck::GiveToCopy(const TextRow &pWords) {
     const std::size_t line = myLines.Line().number;
     if (mySeparator != ',') {
@@ -226,7 +247,7 @@ void DataCheck::GiveToCopy(const TextRow &pWords) {
     }
     if (!myHasCells) {
         myCopy->Record(line, pWords);
-    } else if (myIsUnclosed || myCells.HasTextAfterQuote()) {
+    } else if (IsMalformed()) {
         myCopy->Refuse(line, myIsUnclosed ? "a quote is left open" : "text follows a closing quote");
     } else {
         myCopy->Record(line, myCells);

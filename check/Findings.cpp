@@ -1,6 +1,7 @@
 #include "check/Findings.h"
 
 #include <algorithm>
+#include <iterator>
 #include <ostream>
 
 namespace {
@@ -32,25 +33,31 @@ std::string OnOneLine(std::string pText) {
 void Findings::Add(Kind pKind, std::size_t pLine, Sort pSort, const std::string &pText) {
     const Kind kind = pKind == Kind::Changed && !myIsSaved ? Kind::Note : pKind;
     ++myOfKind[static_cast<std::size_t>(kind)];
-    const std::size_t number = ++myOfSort[static_cast<std::size_t>(pSort)];
-    if (number <= mostShown) {
-        myFindings.push_back({pLine, kind, pSort, number == mostShown, OnOneLine(pText)});
+    OfOneSort &sort = myFindings[static_cast<std::size_t>(pSort)];
+    if (++sort.count > mostShown && pLine >= sort.first.rbegin()->first) {
+        return;
+    }
+    sort.first.emplace(pLine, Finding{kind, OnOneLine(pText)});
+    if (sort.first.size() > mostShown) {
+        sort.first.erase(std::prev(sort.first.end()));
     }
 }
 
 void Findings::Print(std::ostream &pTo) const {
-    std::vector<const Finding *> inOrder;
-    for (const Finding &finding : myFindings) {
-        inOrder.push_back(&finding);
-    }
-    std::stable_sort(inOrder.begin(), inOrder.end(),
-                     [](const Finding *pOne, const Finding *pOther) { return pOne->line < pOther->line; });
-    for (const Finding *finding : inOrder) {
-        pTo << myFile << ':' << finding->line << ": " << Word(finding->kind) << ": " << finding->text << '\n';
-        if (finding->isLastShown && Of(finding->sort) > mostShown) {
-            pTo << myFile << ": " << Word(finding->kind) << ": and " << Of(finding->sort) - mostShown
-                << " more of this sort\n";
+    std::multimap<std::size_t, std::string> texts;
+    for (const OfOneSort &sort : myFindings) {
+        for (const auto &[line, finding] : sort.first) {
+            const std::string word = std::string(": ") + Word(finding.kind) + ": ";
+            std::string text = myFile + ':' + std::to_string(line) + word + finding.text + '\n';
+            if (&finding == &sort.first.rbegin()->second && sort.count > mostShown) {
+                text +=
+                    myFile + word + "and " + std::to_string(sort.count - mostShown) + " more of this sort\n";
+            }
+            texts.emplace(line, std::move(text));
         }
+    }
+    for (const auto &[line, text] : texts) {
+        pTo << text;
     }
 }
 

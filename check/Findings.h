@@ -4,9 +4,9 @@
 #include <array>
 #include <cstddef>
 #include <iosfwd>
+#include <map>
 #include <string>
 #include <utility>
-#include <vector>
 
 enum class Kind {
     Lost,    ///< the editor would not show it, or would stop or refuse
@@ -53,25 +53,25 @@ public:
 
     /// How many there are, of one kind or of one sort.
     std::size_t Of(Kind pKind) const { return myOfKind[static_cast<std::size_t>(pKind)]; }
-    std::size_t Of(Sort pSort) const { return myOfSort[static_cast<std::size_t>(pSort)]; }
+    std::size_t Of(Sort pSort) const { return myFindings[static_cast<std::size_t>(pSort)].count; }
 
     const std::string &File() const { return myFile; }
     void Print(std::ostream &pTo) const;
 
 private:
     struct Finding {
-        std::size_t line;
         Kind kind;
-        Sort sort;
-        bool isLastShown; ///< the last one of its sort that is printed
         std::string text;
+    };
+    struct OfOneSort {
+        std::multimap<std::size_t, Finding> first; ///< by line; no more than are printed
+        std::size_t count = 0;
     };
 
     std::string myFile;
     bool myIsSaved;
-    std::vector<Finding> myFindings;
     std::array<std::size_t, 3> myOfKind{};
-    std::array<std::size_t, static_cast<std::size_t>(Sort::Count)> myOfSort{};
+    std::array<OfOneSort, static_cast<std::size_t>(Sort::Count)> myFindings;
 };
 
 /// "1 line" and "2 lines", of pNoun "line".

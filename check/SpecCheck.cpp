@@ -3,7 +3,6 @@
 #include "check/DataCheck.h"
 #include "editor/SpecColumns.h"
 #include "text/Files.h"
-#include "text/Numbers.h"
 #include "text/Text.h"
 
 #include <algorithm>
@@ -20,9 +19,11 @@ void LookAtEntry(const MeantLine &pLine, std::unordered_map<std::string, std::si
                  Findings &pFindings) {
     const std::string text(pLine.text);
     const auto [before, isNew] = pEntries.try_emplace(text, pLine.number);
-    if (Trim(text).empty()) {
+    if (text.empty()) {
         pFindings.Add(Kind::Note, pLine.number, Sort::Entry,
-                      "a blank entry; it lets the field be left empty");
+                      "an empty entry; it lets the field be left empty");
+    } else if (Trim(text).empty()) {
+        pFindings.Add(Kind::Note, pLine.number, Sort::Entry, "an entry of blanks, which no saved cell keeps");
     } else if (!isNew) {
         pFindings.Add(Kind::Note, pLine.number, Sort::Entry,
                       Quoted(text) + " stands in line " + std::to_string(before->second) + " already");
@@ -60,8 +61,7 @@ SpecCheck::SpecCheck(const std::string &pFile, const std::string &pProgramFolder
     }
     if (percents > wholeWindow) {
         findings.Add(Kind::Note, 1, Sort::Specification,
-                     "the widths sum to " + FormatWhole(percents) +
-                         " percent, so fields lie beyond the window");
+                     "the widths sum to more than 100 percent, so fields lie beyond the window");
     }
 }
 

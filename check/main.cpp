@@ -1,6 +1,7 @@
 /// The command-line program NorvoCheckDat.
 #include "app/VersionRecord.h"
 #include "check/modCheck.h"
+#include "text/Memory.h"
 #include "text/System.h"
 
 #include <iostream>
@@ -11,7 +12,12 @@ int main(int argc, char *argv[]) {
     os::PrintUtf8();
     const std::vector<std::string> words = os::ProgramWords(argc, argv);
     const std::string folder = MakeAppRecord(os::ProgramFile()).Path;
-    const int status = modCheck::Main(words, folder, versionRecord::FileVersion(), std::cout, std::cerr);
+    int status = modCheck::statusImpossible;
+    const bool hasMemory = HasMemoryFor(
+        [&] { status = modCheck::Main(words, folder, versionRecord::FileVersion(), std::cout, std::cerr); });
+    if (!hasMemory) {
+        std::cerr << "There is not enough memory.\n";
+    }
     std::cout.flush();
     return std::cout ? status : modCheck::statusImpossible;
 }

@@ -79,7 +79,7 @@ int CheckData(const Request &pRequest, const SpecCheck *pSpec, std::ostream &pOu
         return statusImpossible;
     }
     if (isRefused) {
-        copy.Refuse(1, "the editor refuses the specification");
+        copy.Refuse(0, "the editor refuses the specification");
     }
     if (pRequest.newFile) {
         copy.Write(*pRequest.newFile);
@@ -89,14 +89,14 @@ int CheckData(const Request &pRequest, const SpecCheck *pSpec, std::ostream &pOu
         copy.Report(findings);
     }
     findings.Print(pOut);
-    pOut << *pRequest.datFile << ": " << Counted(check.Records(), "record") << " in the file, "
-         << (isRefused ? 0 : check.Shown()) << " in the editor\n";
     if (isCopied) {
         pOut << *pRequest.newFile << ": " << Counted(copy.Rows().size(), "record") << " in the file, "
              << copy.Rows().size() << " in the editor\n";
-    } else if (pRequest.newFile) {
-        pErrors << *pRequest.newFile << ": not written: " << *pRequest.datFile << ": " << copy.Fault()
-                << '\n';
+    }
+    pOut << *pRequest.datFile << ": " << Counted(check.Records(), "record") << " in the file, "
+         << (isRefused ? 0 : check.Shown()) << " in the editor\n";
+    if (pRequest.newFile && !isCopied) {
+        pErrors << *pRequest.newFile << ": not written: " << copy.Fault() << '\n';
         return statusImpossible;
     }
     return findings.Of(Kind::Lost) + findings.Of(Kind::Changed) > 0 ? statusFound : statusGood;

@@ -226,7 +226,7 @@ bool RecordList::PickByText(const QKeyEvent &pEvent) {
         return false;
     }
     const int place = mySearch.Typed(pEvent.text(), myList);
-    if (place > 0 && place != myList.SelectedIndex()) {
+    if (place > 0) {
         PickByKey(place);
     }
     return true;

@@ -21,5 +21,6 @@ int TypedSearch::Typed(const QString &pText, const ListView &pList) {
     // A longer text may still fit the current item.
     const bool isNarrowed = goesOn && !isSameAgain;
     const int from = pList.CurrentIndex() + (isNarrowed ? 0 : 1);
-    return pList.FindItem(FromQt(mySoFar), std::max(from, 1));
+    const int found = pList.FindItem(FromQt(mySoFar), std::max(from, 1));
+    return isNarrowed && found == pList.SelectedIndex() ? 0 : found;
 }

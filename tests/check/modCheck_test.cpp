@@ -60,8 +60,8 @@ TEST(DataCheck, SaysWhatTheEditorWouldNotShowOrWouldChange) {
     RequireOutputs({
         {"/csv", "a,b\r\n\"c\",\" d\"\r\ne, \r\n\r\n\"x\r\n\"y\"z,1\r\n\"p\rq\",1\r\ni,j,k\r\nl\r\nm,n\r\n",
          "1\n2: changed: blanks at the ends of cells are left out\n"
-         "3: changed: blanks at the ends of cells are left out\n"
          "3: lost: the line ends in a comma, so the table ends before it; 7 lines are not read\n"
+         "3: changed: blanks at the ends of cells are left out\n"
          "4: lost: the line is blank, which would end the table too\n"
          "5: lost: a quote is left open, which would end the table too\n"
          "6: lost: text follows a closing quote, which would end the table too\n"
@@ -70,8 +70,8 @@ TEST(DataCheck, SaysWhatTheEditorWouldNotShowOrWouldChange) {
          "10: lost: 1 field, not 2, which would end the table too\n"
          " 9 records in the file, 2 in the editor\n"},
         {"/csv", "a,b\r\n\"c\",\"d\ne\"\r\n\xff, f\r\n\r\n\r\n",
-         "1\n4: note: bytes that aren't UTF-8\n"
-         "4: changed: blanks at the ends of cells are left out\n"
+         "1\n4: changed: blanks at the ends of cells are left out\n"
+         "4: note: bytes that aren't UTF-8\n"
          " 3 records in the file, 3 in the editor\n"},
         {"/csv", "", "0\n 0 records in the file, 0 in the editor\n"},
         {"/csv", "\r\na\r\n",
@@ -84,8 +84,8 @@ TEST(DataCheck, SaysWhatTheEditorWouldNotShowOrWouldChange) {
          " 1 record in the file, 0 in the editor\n"},
         {"/csvh", "a,b", "0\n 0 records in the file, 0 in the editor\n"},
         {"/csv", "a;b\nc;1,5\n",
-         "1\n1: lost: semicolons separate the fields, and the editor takes them for text\n"
-         "1: lost: LF alone ends the file's 2 lines, so the editor reads them as one\n"
+         "1\n1: lost: LF alone ends the file's 2 lines, so the editor reads them as one\n"
+         "1: lost: semicolons separate the fields, and the editor takes them for text\n"
          " 2 records in the file, 0 in the editor\n"},
         {"/csvh", "\"x\r\ny\"\tb\r\n1\t2\r\n",
          "1\n1: lost: a quote is left open, so nobody can tell where the header line ends\n"
@@ -109,7 +109,7 @@ TEST(DataCheck, SaysWhatTheEditorWouldNotShowOrWouldChange) {
          " 1 record in the file, 1 in the editor\n"},
         {"", "3,2\r\na,b\r\n\r\nc,d\r\n",
          "1\n1: lost: the first line announces 3 records, but there are 2\n"
-         "3: lost: the line is blank, so the table ends before it; 1 line is not read\n"
+         "3: lost: the line is blank, so the editor has empty records from here on; 1 line is not read\n"
          " 2 records in the file, 1 in the editor\n"},
         {"", "Name,City\r\na,b\r\n",
          "1\n1: lost: the file doesn't begin with the number of its records, so none were read. Is it CSV? "
@@ -125,9 +125,9 @@ TEST(DataCheck, SaysWhatTheEditorWouldNotShowOrWouldChange) {
         {"",
          "\xEF\xBB\xBF"
          "1,2\r\na,b\r\n",
-         "1\n1: changed: a byte-order mark stands at the start; the editor takes it for part of the text\n"
-         "1: lost: the file doesn't begin with the number of its records, so none were read. Is it CSV? Then "
-         "say /csv or /csvh.\n"
+         "1\n1: lost: the file doesn't begin with the number of its records, so none were read. Is it CSV? "
+         "Then say /csv or /csvh.\n"
+         "1: changed: a byte-order mark stands at the start; the editor takes it for part of the text\n"
          " 1 record in the file, 0 in the editor\n"},
         {"/csvh spec", "City,Name\r\nUlm,a\r\nKiel,b\r\nKiel,c\r\n",
          "1\n1: changed: the titles are the specification's in another order; the specification's order "
@@ -153,6 +153,20 @@ TEST(DataCheck, SaysWhatTheEditorWouldNotShowOrWouldChange) {
          "the file\n"
          "2: lost: 3 fields, not 2, so the table ends before it; 1 line is not read\n"
          " 1 record in the file, 0 in the editor\n"},
+        {"/csvh", "A, B\r\n1,2,3\r\n\r\n\r\n4,5,6\r\n",
+         "1\n1: changed: blanks at the ends of cells are left out\n"
+         "1: changed: the header line has 2 fields and the first record 3\n"
+         "3: lost: the line is blank, so the table ends before it; 1 line is not read\n"
+         "4: lost: the line is blank, which would end the table too\n"
+         " 2 records in the file, 1 in the editor\n"},
+        {"spec", "1,40000\r\na,Ulm\r\n",
+         "1\n1: lost: the first line announces what no table can have, so the editor refuses the file. Is it "
+         "CSV? Then say /csv or /csvh.\n"
+         " 1 record in the file, 0 in the editor\n"},
+        {"/csv spec", "a;Kiel\r\n",
+         "1\n1: lost: semicolons separate the fields, and the editor takes them for text\n"
+         "1: note: \"City\" has \"Kiel\", which isn't in its list, in 1 record\n"
+         " 1 record in the file, 0 in the editor\n"},
         {"/CSV spec", "a,\"Ulm\",\r\nb,Bonn\r\n",
          "1\n1: lost: the line ends in a comma, and with a first line without fields the editor ends with a "
          "message\n"
@@ -165,69 +179,69 @@ TEST(CleanCopy, HoldsAllThatWasMeantAndSaysWhatItDid) {
         {"/to new /csvh spec",
          "\xEF\xBB\xBF"
          "City;Name\n\"Ulm\";\"a;\"\"b\"\"\"\n\nBonn;\"x\r\ny \"\nUlm\nBonn;z;;\n",
-         "1\n1: changed: a byte-order mark stands before the first title; it is lost with the header line\n"
+         "1\n1: lost: LF alone ends the file's 6 lines, so the editor reads them as one\n"
          "1: lost: semicolons separate the fields, and the editor takes them for text\n"
+         "1: changed: a byte-order mark stands before the first title; it is lost with the header line\n"
          "1: changed: the titles are the specification's in another order; the specification's order would "
          "be written over columns that stay where they are\n"
-         "1: lost: LF alone ends the file's 6 lines, so the editor reads them as one\n"
          "1: note: in the copy the byte-order mark is left out\n"
          "1: note: in the copy 6 lines got the line end CR LF\n"
          "1: note: in the copy the columns are put into the specification's order, in 5 lines\n"
          "1: note: in the copy 1 line without text left out\n"
          "2: note: in the copy 4 lines got commas between the fields\n"
          "3: lost: the line is blank, which would end the table too\n"
-         "4: changed: blanks at the ends of cells are left out\n"
          "4: lost: a line end inside quotes ends the line, which would end the table too\n"
+         "4: changed: blanks at the ends of cells are left out\n"
          "4: note: in the copy line breaks inside cells made blanks, in 1 line\n"
          "4: note: in the copy blanks at the ends of cells left out, in 1 line\n"
          "6: lost: 1 field, not 2, which would end the table too\n"
          "6: note: in the copy 1 line with too few fields filled with empty ones\n"
          "7: lost: 4 fields, not 2, which would end the table too\n"
          "7: note: in the copy 1 line with too many fields lost empty ones at the end\n"
-         " 4 records in the file, 0 in the editor\n"
-         "new: 4 records in the file, 4 in the editor\n",
+         "new: 4 records in the file, 4 in the editor\n"
+         " 4 records in the file, 0 in the editor\n",
          "\"Name\",\"City\"\r\n\"a;\"\"b\"\"\",\"Ulm\"\r\n\"x "
          "y\",\"Bonn\"\r\n\"\",\"Ulm\"\r\n\"z\",\"Bonn\"\r\n"},
         {"/to new /csv", "1\t2\r\n3\t4\t5\r\n",
          "2\n1: lost: tabs separate the fields, and the editor takes them for text\n"
          "2: lost: 3 fields, not 2, which would end the table too\n"
          " 2 records in the file, 2 in the editor\n"
-         "new: not written: f: line 2: 3 fields, not 2, and those at the end are not empty\n",
+         "new: not written: line 2 of the file: 3 fields, not 2, and those at the end are not empty\n",
          ""},
         {"/to new /csv", "1,2\r\n\"3\r\n",
          "2\n2: lost: a quote is left open, so the table ends before it; 1 line is not read\n"
          " 2 records in the file, 1 in the editor\n"
-         "new: not written: f: line 2: a quote is left open\n",
+         "new: not written: line 2 of the file: a quote is left open\n",
          ""},
         {"/to new /csv", "\"1\"x,2\r\n",
          "2\n1: lost: text follows a closing quote, and with a first line without fields the editor ends "
          "with a message\n"
          " 1 record in the file, 0 in the editor\n"
-         "new: not written: f: line 1: text follows a closing quote\n",
+         "new: not written: line 1 of the file: text follows a closing quote\n",
          ""},
         {"/to new /csv", "\xFE\xFFx\r\n",
          "2\n1: lost: the file is in UTF-16, and the editor takes it for UTF-8\n"
          "1: note: bytes that aren't UTF-8\n"
          " 1 record in the file, 1 in the editor\n"
-         "new: not written: f: line 1: the file is in UTF-16, and the editor takes it for UTF-8\n",
+         "new: not written: line 1 of the file: the file is in UTF-16, and the editor takes it for UTF-8\n",
          ""},
         {"/to new", "a,b\r\nc,d\r\n",
          "2\n1: lost: the file doesn't begin with the number of its records, so none were read. Is it CSV? "
          "Then say /csv or /csvh.\n"
          " 1 record in the file, 0 in the editor\n"
-         "new: not written: f: line 1: the first line isn't the numbers of records and columns\n",
+         "new: not written: line 1 of the file: the first line isn't the numbers of records and columns\n",
          ""},
         {"/to new", "7,3\r\na,b\r\nc,d,e\r\n",
          "1\n1: lost: the first line announces 7 records, but there are 2\n"
          "1: note: in the copy the numbers of records and columns are counted\n"
-         "2: lost: 2 fields, not 3, so the table ends before it; 2 lines are not read\n"
+         "2: lost: 2 fields, not 3, so the editor has empty records from here on; 2 lines are not read\n"
          "2: note: in the copy 1 line with too few fields filled with empty ones\n"
-         " 2 records in the file, 0 in the editor\n"
-         "new: 2 records in the file, 2 in the editor\n",
+         "new: 2 records in the file, 2 in the editor\n"
+         " 2 records in the file, 0 in the editor\n",
          "2,3\r\n\"a\",\"b\",\"\"\r\n\"c\",\"d\",\"e\"\r\n"},
         {"/to new /csv", "",
          "2\n 0 records in the file, 0 in the editor\n"
-         "new: not written: f: there are no records\n",
+         "new: not written: there are no records\n",
          ""},
     });
 }
@@ -255,12 +269,12 @@ TEST(SpecCheck, SaysWhatTheEditorRefusesAndWhatIsOddInLists) {
     folder.Write("none", "");
     folder.Write("lists", "4,4\r\nA,50,1,cities\r\nB,50.5,1,lf\r\nC,1,0,none\r\nD,1,0,missing\r\n");
     const std::string odd = "cities:2: note: \" Ulm\" has blanks at its ends, which no saved cell keeps\n"
-                            "cities:3: note: a blank entry; it lets the field be left empty\n"
+                            "cities:3: note: an empty entry; it lets the field be left empty\n"
                             "cities:4: note: \"Ulm\" stands in line 1 already\n";
     EXPECT_EQ(folder.Run("/spec spec"), "0\n" + odd + "spec: 2 columns in the file, 2 in the editor\n");
     EXPECT_EQ(
         folder.Run("-SPEC lists"),
-        "1\nlists:1: note: the widths sum to 103 percent, so fields lie beyond the window\n"
+        "1\nlists:1: note: the widths sum to more than 100 percent, so fields lie beyond the window\n"
         "lists:5: note: the list file \"missing\" isn't there, and neither is missing; the field takes any "
         "text\n" +
             odd +
@@ -271,12 +285,11 @@ TEST(SpecCheck, SaysWhatTheEditorRefusesAndWhatIsOddInLists) {
     folder.Write("f", "2,2\r\na,b\r\nc,d\r\n");
     const std::string faults =
         "short:1: lost: Row 2 is empty: its fields are, or its line or one before it doesn't have 4 fields.\n"
-        "short:3: lost: 3 fields, not 4, so the table ends before it; 1 line is not read\n";
+        "short:3: lost: 3 fields, not 4, so the editor has empty records from here on; 1 line is not read\n";
     EXPECT_EQ(folder.Run("/spec short"), "1\n" + faults + "short: 2 columns in the file, 0 in the editor\n");
-    EXPECT_EQ(folder.Run("/to new short f"),
-              "2\n" + faults +
-                  "f: 2 records in the file, 0 in the editor\n"
-                  "new: not written: f: line 1: the editor refuses the specification\n");
+    EXPECT_EQ(folder.Run("/to new short f"), "2\n" + faults +
+                                                 "f: 2 records in the file, 0 in the editor\n"
+                                                 "new: not written: the editor refuses the specification\n");
 }
 
 TEST(Check, RefusesWrongWordsAndNeverReplacesAFile) {
@@ -293,7 +306,7 @@ TEST(Check, RefusesWrongWordsAndNeverReplacesAFile) {
         {"none", "2\nnone: " + std::string(TextInput("none").Fault()) + "\n"},
         {"none spec", "2\nSpecification file: none doesn't exist.\n"},
         {"cities /TO spec -csv", "2\ncities: 2 records in the file, 2 in the editor\n"
-                                 "spec: not written: cities: File exists\n"}};
+                                 "spec: not written: File exists\n"}};
     const CheckFolder folder;
     const std::string before = folder.Read("spec");
     for (const auto &[words, output] : cases) {

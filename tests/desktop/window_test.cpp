@@ -80,17 +80,17 @@ TEST_F(Records, areFoundByTheirFirstLetters) {
     Key(Qt::Key_B, Qt::ControlModifier);
     QApplication::setKeyboardInputInterval(0);
     QTest::qWait(2);
-    for (const int key : {Qt::Key_B, Qt::Key_A}) {
+    for (const int key : {Qt::Key_B, Qt::Key_B, Qt::Key_A}) {
         Key(key);
         QTest::qWait(2);
     }
-    EXPECT_EQ(acts, "2 4 2 3 4 ") << "after a pause another search begins";
+    EXPECT_EQ(acts, "2 4 2 3 3 4 ") << "after a pause another search begins, and may come round";
     QApplication::setKeyboardInputInterval(60'000);
     Key(Qt::Key_A);
     Key(Qt::Key_P);
-    EXPECT_EQ(acts, "2 4 2 3 4 2 ") << "a longer text may still fit the current record";
+    EXPECT_EQ(acts, "2 4 2 3 3 4 2 ") << "a longer text may still fit the current record";
     QTest::simulateEvent(window->windowHandle(), true, Qt::Key_Adiaeresis, {}, "\u00E4", false);
-    EXPECT_EQ(acts, "2 4 2 3 4 2 ");
+    EXPECT_EQ(acts, "2 4 2 3 3 4 2 ");
 }
 
 TEST_F(Records, showWholeWhatIsCut) {
