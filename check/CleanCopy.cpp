@@ -193,7 +193,8 @@ bool CleanCopy::Fill(const std::string &pFile) {
         table.Row(row, myRows[static_cast<std::size_t>(row)]);
     }
     table.Save();
-    myFault = table.Fault();
+    // What it says then is about the editor's list, and about a file that won't stay.
+    myFault = table.Fault().substr(0, table.Fault().find(" The records"));
     if (myFault.empty() && !ReadsBack(pFile)) {
         myFault = "it did not come back as it was written";
     }

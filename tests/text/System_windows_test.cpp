@@ -1,5 +1,6 @@
 #include "tests/support/TemporaryFolder.h"
 #include "text/Files.h"
+#include "text/Text.h"
 
 #include <gtest/gtest.h>
 
@@ -85,6 +86,16 @@ TEST(WindowsFiles, ThatCannotBeWrittenAreLeftAlone) {
     EXPECT_EQ(os::MakeNewFile(file).Words().empty(), false);
     os::RemoveFile(file);
     EXPECT_EQ(os::MakeNewFile(file).Words(), "");
+}
+
+TEST(WindowsProgram, KnowsItsFileAndItsCommandLine) {
+    const std::string line = os::CommandLine().value_or("none");
+    std::string words;
+    for (const std::string &word : os::ProgramWords(0, nullptr)) {
+        words += (words.empty() ? "" : " ") + word;
+    }
+    EXPECT_EQ(words, Trim(line)) << "none of the words has blanks or quotation marks";
+    EXPECT_TRUE(os::ProgramFile().ends_with("norvo_tests.exe")) << os::ProgramFile();
 }
 
 } // namespace
