@@ -18,7 +18,7 @@ void LineEnds::Report(Findings &pFindings, std::size_t pLines) const {
     const bool areAll = myLfAlone == pLines || (myLfAlone + 1 == pLines && !myLastEndsInLf);
     const std::string more = myLfAlone > 1 ? " and " + std::to_string(myLfAlone - 1) + " more" : "";
     pFindings.Add(
-        Kind::Lost, areAll ? 1 : myFirstLf, Sort::LineEnds,
+        Kind::Lost, myFirstLf, Sort::LineEnds,
         areAll
             ? "LF alone ends the file's " + Counted(myLfAlone, "line") + ", so the editor reads them as one"
             : "LF alone ends this line" + more + ", and the editor reads such a line and the next as one");

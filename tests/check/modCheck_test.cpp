@@ -14,6 +14,7 @@ public:
     CheckFolder() {
         Write("spec", "2,4\r\n\"Name\",\"50\",\"0\",\"-\"\r\n\"City\",\"40\",\"1\",\"cities\"\r\n");
         Write("cities", "Ulm\r\nBonn\r\n");
+        Write("twins", "3,4\r\nA,1,0,-\r\nA,1,0,-\r\nB,1,0,-\r\n");
     }
 
     /// Runs the command with pWords, of which those without a slash are files of the folder. Returns the
@@ -163,6 +164,7 @@ TEST(DataCheck, SaysWhatTheEditorWouldNotShowOrWouldChange) {
          "1\n1: lost: the first line announces what no table can have, so the editor refuses the file. Is it "
          "CSV? Then say /csv or /csvh.\n"
          " 1 record in the file, 0 in the editor\n"},
+        {"/csv spec", "a;b;c,Ulm\r\n", "0\n 1 record in the file, 1 in the editor\n"},
         {"/csv spec", "a;Kiel\r\n",
          "1\n1: lost: semicolons separate the fields, and the editor takes them for text\n"
          "1: note: \"City\" has \"Kiel\", which isn't in its list, in 1 record\n"
@@ -219,6 +221,19 @@ TEST(CleanCopy, HoldsAllThatWasMeantAndSaysWhatItDid) {
          " 1 record in the file, 0 in the editor\n"
          "new: not written: line 1 of the file: text follows a closing quote\n",
          ""},
+        {"/to new /csv", "a, \"b\"\"c\" \r\n",
+         "1\n1: changed: blanks at the ends of cells are left out\n"
+         "1: note: in the copy blanks at the ends of cells left out, in 1 line\n"
+         "new: 1 record in the file, 1 in the editor\n"
+         " 1 record in the file, 1 in the editor\n",
+         "\"a\",\"b\"\"c\"\r\n"},
+        {"/to new /csvh twins", "B,A,A\r\n1,2,3\r\n",
+         "1\n1: changed: the titles are the specification's in another order; the specification's order "
+         "would be written over columns that stay where they are\n"
+         "1: note: in the copy the columns are put into the specification's order, in 2 lines\n"
+         "new: 1 record in the file, 1 in the editor\n"
+         " 1 record in the file, 1 in the editor\n",
+         "\"A\",\"A\",\"B\"\r\n\"2\",\"3\",\"1\"\r\n"},
         {"/to new /csv", "\xFE\xFFx\r\n",
          "2\n1: lost: the file is in UTF-16, and the editor takes it for UTF-8\n"
          "1: note: bytes that aren't UTF-8\n"
