@@ -142,6 +142,22 @@ def add_and_move(here, window):
     save(here, "added")
 
 
+def open_what_is_not_there(here):
+    """Opens a name that isn't there, adds an empty record, and saves it under that name."""
+    file = here.folder / "new.dat"
+    here.start()
+    hands.key("space", "ctrl+o")
+    hands.focus("Open")
+    hands.type_text(here.path(file))
+    hands.key("Return")
+    hands.focus(TITLE)
+    hands.key("shift+Tab", "Tab", "space", "alt+a")
+    hands.focus(here.save_title)
+    hands.key("Return")
+    hands.focus(TITLE)
+    until(file.exists, "new.dat")
+
+
 def work(here, share, opened):
     window = edit(here, share)
     add_and_move(here, window)
@@ -154,6 +170,10 @@ def work(here, share, opened):
     hands.key("alt+h", "a")
     hands.focus("About " + TITLE)
     here.picture("about")
+    x, y = hands.place(hands.focus("About " + TITLE))[:2]
+    hands.click(x + 50 * here.scale, y + 185 * here.scale)  # the link
+    hands.expect(lambda: opened.exists() and opened.read_text(), "https://norvo.example/\n", "the address")
+    opened.unlink()
     answer("About " + TITLE, "Return")
     for key in ("Escape", "Return"):
         hands.focus(TITLE)
@@ -162,7 +182,7 @@ def work(here, share, opened):
         here.picture("quit")
         answer("Quit", key)
     statuses = [here.ends()]
-    here.start(here.path(here.folder / "added.dat"))
+    open_what_is_not_there(here)
     hands.key("alt+F4")
     return [*statuses, here.ends()]
 
@@ -190,7 +210,7 @@ def main():
                     raise
                 assert statuses == [0, 0], statuses
         for other in both[1:]:
-            for name in ("updated.dat", "moved.dat", "deleted.dat", "added.dat"):
+            for name in ("updated.dat", "moved.dat", "deleted.dat", "added.dat", "new.dat"):
                 lines, wanted = ((here.folder / name).read_bytes().split(b"\r\n") for here in (other, both[0]))
                 assert lines == wanted, (name, other.scale, *next(pair for pair in zip(lines, wanted)
                                                                   if pair[0] != pair[1]))
