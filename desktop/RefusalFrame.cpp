@@ -2,17 +2,22 @@
 
 #include <QPainter>
 
-// Some styles leave a focus frame only what lies outside the field.
+// Most styles put a focus frame under the field, and leave it only what lies outside.
 
 bool RefusalFrame::eventFilter(QObject *pWatched, QEvent *pEvent) {
     const bool isTaken = QFocusFrame::eventFilter(pWatched, pEvent);
-    clearMask();
+    ShowAboveField();
     return isTaken;
 }
 
 void RefusalFrame::showEvent(QShowEvent *pEvent) {
     QFocusFrame::showEvent(pEvent);
+    ShowAboveField();
+}
+
+void RefusalFrame::ShowAboveField() {
     clearMask();
+    raise();
 }
 
 void RefusalFrame::paintEvent(QPaintEvent * /*pEvent*/) {

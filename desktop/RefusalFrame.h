@@ -11,4 +11,7 @@ protected:
     bool eventFilter(QObject *pWatched, QEvent *pEvent) override;
     void showEvent(QShowEvent *pEvent) override;
     void paintEvent(QPaintEvent *pEvent) override;
+
+private:
+    void ShowAboveField();
 };
