@@ -1,6 +1,7 @@
 """Combo fields under real keys and real focus: completion when a key is released, fast typing, and a field that keeps
 the focus while its text isn't listed. Then the ways out of the window."""
 
+import desk
 from desk import TITLE, main
 
 
