@@ -58,7 +58,7 @@ def session(d, _share):
         d.expect(shown, ("z" * count, ""), "the text in the refusing field, attempt %d" % (count - 2))
     edge = box.get_component_iface().get_extents(desk.Atspi.CoordType.SCREEN)
     spot = desk.run("import", "-window", "root", "-crop", "1x1+%d+%d" % (edge.x + 1, edge.y + 1), "txt:-")
-    assert "#C41E1E" in spot, "the frame of a refusing field: " + spot
+    assert "srgb(196,30,30)" in spot, "the frame of a refusing field: " + spot
     assert (d.table().get_n_rows(), d.text("Name")) == (2, ""), "a refused press or pick was delivered"
     d.key("ctrl+a")
     d.click(fruit)
