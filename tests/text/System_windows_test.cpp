@@ -88,6 +88,17 @@ TEST(WindowsFiles, ThatCannotBeWrittenAreLeftAlone) {
     EXPECT_EQ(os::MakeNewFile(file).Words(), "");
 }
 
+TEST(WindowsFiles, TellWhatFailsOnceTheyAreOpen) {
+    const std::string kernel = "Z:\\proc\\self\\"; // Wine shows Linux's own files, and these always fail.
+    if (!os::IsFile(kernel + "mem")) {
+        GTEST_SKIP() << "this is not Wine on Linux";
+    }
+    EXPECT_FALSE(CanBeRead(kernel + "mem")) << "it opens, but reading fails";
+    const os::FileWriter file(kernel + "comm");
+    EXPECT_NE(file.Fault(), "") << "it opens, but can't be emptied";
+    EXPECT_FALSE(file.WasEmptied());
+}
+
 TEST(WindowsProgram, KnowsItsFileAndItsCommandLine) {
     const std::string line = os::CommandLine().value_or("none");
     std::string words;
