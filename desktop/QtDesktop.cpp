@@ -3,6 +3,7 @@
 #include "desktop/ComboAccess.h"
 #include "desktop/FileDialog.h"
 #include "desktop/TextCodec.h"
+#include "desktop/WindowSystem.h"
 #include "platform/Runtime.h"
 #include "text/Memory.h"
 #include "text/System.h"
@@ -122,7 +123,8 @@ MessageAnswer QtDesktop::ShowMessage(const Message &pMessage) {
     mySpare.reset();
     MessageAnswer answer = MessageAnswer::Cancel; // The program does least after it.
     HasMemoryFor([this] { Sync(); });
-    if (!HasMemoryFor([&] { answer = Ask(pMessage); })) {
+    if (!HasMemoryFor([&] { answer = Ask(pMessage); }) &&
+        !ShowPlainMessage(pMessage.prompt, pMessage.title)) {
         std::fwrite(pMessage.prompt.data(), 1, pMessage.prompt.size(), stderr);
         std::fputs("\n", stderr);
     }
@@ -132,8 +134,8 @@ MessageAnswer QtDesktop::ShowMessage(const Message &pMessage) {
 
 MessageAnswer QtDesktop::Ask(const Message &pMessage) {
     QMessageBox box(ActiveWindow());
-    box.setIcon(pMessage.buttons == MessageButtons::CriticalStop ? QMessageBox::Critical
-                                                                 : QMessageBox::NoIcon);
+    const bool isCritical = pMessage.buttons == MessageButtons::CriticalStop;
+    box.setIcon(isCritical ? QMessageBox::Critical : QMessageBox::NoIcon);
     box.setWindowTitle(ToQtTitle(pMessage.title));
     box.setTextFormat(Qt::PlainText);
     box.setText(ShownPrompt(pMessage.prompt));
@@ -144,6 +146,7 @@ MessageAnswer QtDesktop::Ask(const Message &pMessage) {
         box.setEscapeButton(box.addButton(QMessageBox::Cancel));
     }
     const QScopedValueRollback depth(myDepth, myDepth + 1);
+    SoundMessage(isCritical);
     return box.exec() == QMessageBox::Ok ? MessageAnswer::Ok : MessageAnswer::Cancel;
 }
 

@@ -4,6 +4,7 @@
 #include <QSize>
 
 #include <optional>
+#include <string_view>
 
 class QWidget;
 
@@ -25,3 +26,10 @@ bool IsMouseHeld();
 /// Chooses colours and style as the user has chosen the system's, where Qt doesn't by itself. Call it before
 /// there is an application.
 void FollowSystemColours();
+
+/// Makes the system's sound for a message box, where Qt doesn't by itself.
+void SoundMessage(bool pIsCritical);
+
+/// Shows a text, UTF-8, in a message box that needs less memory than Qt's. Returns false where the system has
+/// none, and if it can't show it.
+bool ShowPlainMessage(std::string_view pText, std::string_view pTitle);

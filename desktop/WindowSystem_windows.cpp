@@ -4,6 +4,12 @@
 #include <QApplication>
 #include <QWidget>
 
+#include <algorithm>
+#include <iterator>
+
+#ifndef NOMINMAX
+#define NOMINMAX
+#endif
 #define WIN32_LEAN_AND_MEAN
 #include <windows.h>
 
@@ -29,6 +35,16 @@ bool AreColoursDark() {
                      L"AppsUseLightTheme", RRF_RT_REG_DWORD, nullptr, &isLight, &size);
     return status == ERROR_SUCCESS && isLight == 0;
 }
+
+/// As much of a UTF-8 text as there is room for. It takes no memory of its own.
+struct WideText {
+    wchar_t units[1000] = {};
+    explicit WideText(std::string_view pText) {
+        const int size =
+            static_cast<int>(std::min(pText.size(), std::size(units) - 1)); // At most a unit a byte.
+        MultiByteToWideChar(CP_UTF8, 0, pText.data(), size, units, size);
+    }
+};
 
 } // namespace
 
@@ -56,4 +72,15 @@ void FollowSystemColours() {
         qputenv("QT_QPA_PLATFORM", "windows:darkmode=2");
         QApplication::setStyle(QStringLiteral("fusion"));
     }
+}
+
+void SoundMessage(bool pIsCritical) {
+    // Qt plays sounds only once a program such as a screen reader has asked for its accessible objects.
+    MessageBeep(pIsCritical ? MB_ICONHAND : MB_OK);
+}
+
+bool ShowPlainMessage(std::string_view pText, std::string_view pTitle) {
+    const WideText text(pText);
+    const WideText title(pTitle);
+    return MessageBoxW(nullptr, text.units, title.units, MB_ICONHAND) != 0;
 }

@@ -117,3 +117,9 @@ bool IsMouseHeld() {
 }
 
 void FollowSystemColours() {}
+
+void SoundMessage(bool /*pIsCritical*/) {}
+
+bool ShowPlainMessage(std::string_view /*pText*/, std::string_view /*pTitle*/) {
+    return false;
+}
