@@ -21,6 +21,20 @@ namespace {
 /// The most bytes that one call reads or writes: the system counts them in 32 bits.
 constexpr std::size_t mostBytesPerCall = std::size_t{1} << 30U;
 
+/// pPath as the system takes it at any length. More than 260 characters it takes as they stand only where its
+/// owner has allowed that (Microsoft Windows App Development, "Maximum Path Length Limitation").
+std::wstring OfAnyLength(const std::wstring &pPath) {
+    std::wstring full(GetFullPathNameW(pPath.c_str(), 0, nullptr, nullptr), L'\0');
+    full.resize(GetFullPathNameW(pPath.c_str(), static_cast<DWORD>(full.size()), full.data(), nullptr));
+    if (full.size() < MAX_PATH) {
+        return pPath;
+    }
+    if (full.starts_with(LR"(\\?\)") || full.starts_with(LR"(\\.\)")) {
+        return full;
+    }
+    return full.starts_with(LR"(\\)") ? LR"(\\?\UNC)" + full.substr(1) : LR"(\\?\)" + full;
+}
+
 /// pText for the wide interface. Empty when it can't name a file: the system would replace bytes that are not
 /// UTF-8 and end the name at a NUL, and either would name another file.
 std::wstring Wide(const std::string &pText) {
@@ -40,7 +54,7 @@ std::wstring Wide(const std::string &pText) {
     const int length =
         MultiByteToWideChar(CP_UTF8, MB_ERR_INVALID_CHARS, pText.data(), size, wide.data(), size);
     wide.resize(static_cast<std::size_t>(length));
-    return wide;
+    return OfAnyLength(wide);
 }
 
 std::string Utf8(const wchar_t *pText, std::size_t pLength) {
@@ -83,7 +97,7 @@ bool HasAny(DWORD pAttributes, DWORD pWanted) {
 /// Whether pError says that there is nothing of a name, or can't be.
 bool IsAbsence(DWORD pError) {
     return pError == ERROR_FILE_NOT_FOUND || pError == ERROR_PATH_NOT_FOUND || pError == ERROR_INVALID_NAME ||
-           pError == ERROR_INVALID_DRIVE || pError == ERROR_BAD_NETPATH;
+           pError == ERROR_INVALID_DRIVE || pError == ERROR_BAD_NETPATH || pError == ERROR_BAD_NET_NAME;
 }
 
 const std::intptr_t noHandle = reinterpret_cast<std::intptr_t>(INVALID_HANDLE_VALUE);
