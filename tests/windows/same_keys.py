@@ -190,6 +190,8 @@ def work(here, share, opened):
 def main():
     windows, own, share = (pathlib.Path(word).resolve() for word in sys.argv[1:4])
     pictures = pathlib.Path(sys.argv[4]) if len(sys.argv) > 4 else None
+    if pictures:
+        pictures.mkdir(parents=True, exist_ok=True)
     folder = pathlib.Path(tempfile.mkdtemp(prefix="norvo-windows-"))
     opened = folder / "opened"
     opener = folder / "bin" / "xdg-open"
