@@ -14,7 +14,7 @@
 #include <string>
 
 int main(int argc, char *argv[]) {
-    os::ReportWriteLimits();
+    os::LetCallsFail();
     const std::optional<std::string> line = os::CommandLine();
     const std::string command = line ? *line : CommandText(os::ProgramWords(argc, argv));
     FollowSystemColours();

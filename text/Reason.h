@@ -7,10 +7,16 @@ class Reason {
 public:
     /// Empty while nothing has failed.
     std::string_view Words() const { return {myWords, mySize}; }
-    /// Takes pWords, or as much of them as there is room for.
-    void Words(std::string_view pWords) { mySize = pWords.copy(myWords, mostBytes); }
+    /// Takes pWords, or as many whole characters of them as there is room for.
+    void Words(std::string_view pWords) {
+        mySize = pWords.copy(myWords, mostBytes);
+        constexpr auto isInside = [](char pByte) { return (pByte & '\xC0') == '\x80'; };
+        while (mySize > 0 && mySize < pWords.size() && isInside(pWords[mySize])) {
+            --mySize;
+        }
+    }
 
-    static constexpr std::size_t mostBytes = 250;
+    static constexpr std::size_t mostBytes = 600;
 
 private:
     char myWords[mostBytes] = {};

@@ -18,7 +18,7 @@ std::string NativePath(const std::string &pPath);
 
 /// Whether pPath names something that exists and is no folder. Where the system has such attributes, hidden
 /// files and system files do not count. What the system can't look at (no right to its folder, a loop of
-/// links) counts, so that to open it says why.
+/// links, a drive or a server that is gone) counts, so that to open it says why.
 bool IsFile(const std::string &pPath);
 
 /// Whether pPath names a folder.
@@ -90,10 +90,12 @@ std::optional<std::string> CommandLine();
 /// Makes a console take what is printed for UTF-8 until the program ends.
 void PrintUtf8();
 
-/// The full path of the running program's file, with links followed; empty if the system won't tell.
+/// The full path of the running program's file; empty if the system won't tell. POSIX follows links, Windows
+/// gives the name by which the program was started.
 std::string ProgramFile();
 
-/// Makes a write beyond the limit of file size fail with a reason, instead of ending the process.
-void ReportWriteLimits();
+/// Makes calls fail with a reason where the system would otherwise end the process (a write beyond the limit
+/// of file size) or ask the user itself (a drive without a medium). Call it first.
+void LetCallsFail();
 
 } // namespace os

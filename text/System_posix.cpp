@@ -206,7 +206,7 @@ std::string ProgramFile() {
     return path;
 }
 
-void ReportWriteLimits() {
+void LetCallsFail() {
     std::signal(SIGXFSZ, SIG_IGN);
     std::signal(SIGPIPE, SIG_IGN);
 }

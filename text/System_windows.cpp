@@ -67,11 +67,11 @@ std::string Utf8(const wchar_t *pText, std::size_t pLength) {
 
 /// Puts the system's words for pError into pReason, without the full stop and the line end that it adds.
 void Tell(Reason &pReason, DWORD pError) {
-    wchar_t words[Reason::mostBytes / 3]; // A UTF-16 unit takes three bytes at most.
+    wchar_t words[1000]; // Where the words don't fit in, the system gives none. Some languages need many.
     constexpr DWORD how =
         FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS | FORMAT_MESSAGE_MAX_WIDTH_MASK;
     const DWORD length = FormatMessageW(how, nullptr, pError, 0, words, std::size(words), nullptr);
-    char bytes[Reason::mostBytes];
+    char bytes[3 * std::size(words)]; // A UTF-16 unit takes three bytes at most.
     const int size = WideCharToMultiByte(CP_UTF8, 0, words, static_cast<int>(length), bytes,
                                          static_cast<int>(std::size(bytes)), nullptr, nullptr);
     const std::string_view text(bytes, static_cast<std::size_t>(size));
@@ -94,16 +94,26 @@ bool HasAny(DWORD pAttributes, DWORD pWanted) {
     return pAttributes != INVALID_FILE_ATTRIBUTES && (pAttributes & pWanted) != 0;
 }
 
-/// Whether pError says that there is nothing of a name, or can't be.
-bool IsAbsence(DWORD pError) {
-    return pError == ERROR_FILE_NOT_FOUND || pError == ERROR_PATH_NOT_FOUND || pError == ERROR_INVALID_NAME ||
-           pError == ERROR_INVALID_DRIVE || pError == ERROR_BAD_NETPATH || pError == ERROR_BAD_NET_NAME;
+/// Whether pPath begins with a drive that isn't there. The system's error doesn't tell that from a folder.
+bool IsDriveGone(const std::wstring &pPath) {
+    return pPath.size() > 1 && pPath[1] == L':' &&
+           GetDriveTypeW((pPath.substr(0, 2) + L'\\').c_str()) == DRIVE_NO_ROOT_DIR;
+}
+
+/// Whether pError says that there is nothing of the name pPath, or can't be.
+bool IsAbsence(DWORD pError, const std::wstring &pPath) {
+    const bool isMissing = pError == ERROR_FILE_NOT_FOUND || pError == ERROR_PATH_NOT_FOUND;
+    return pError == ERROR_INVALID_NAME || (isMissing && !IsDriveGone(pPath));
 }
 
 const std::intptr_t noHandle = reinterpret_cast<std::intptr_t>(INVALID_HANDLE_VALUE);
 
-/// A handle of pPath; noHandle, with the last error set, if the system refuses.
+/// A handle of pPath; noHandle, with the last error set, if the system refuses or pPath is empty.
 std::intptr_t Open(const std::wstring &pPath, DWORD pAccess, DWORD pShare, DWORD pDisposition) {
+    if (pPath.empty()) {
+        SetLastError(ERROR_INVALID_NAME);
+        return noHandle;
+    }
     return reinterpret_cast<std::intptr_t>(
         CreateFileW(pPath.c_str(), pAccess, pShare, nullptr, pDisposition, FILE_ATTRIBUTE_NORMAL, nullptr));
 }
@@ -120,6 +130,19 @@ bool GiveBack(std::intptr_t &pHandle) {
 
 DWORD SizeForCall(std::size_t pSize) {
     return static_cast<DWORD>(std::min(pSize, mostBytesPerCall));
+}
+
+/// What follows the program's name on a command line. The name ends at the first blank or tab outside
+/// quotation marks, which may enclose any part of it (Microsoft C++ reference, "main function and
+/// command-line arguments").
+std::wstring_view BehindProgramName(std::wstring_view pLine) {
+    bool isQuoted = false;
+    const auto isEnd = [&](wchar_t pUnit) {
+        isQuoted = isQuoted != (pUnit == L'"');
+        return !isQuoted && (pUnit == L' ' || pUnit == L'\t');
+    };
+    const auto end = std::find_if(pLine.begin(), pLine.end(), isEnd);
+    return pLine.substr(static_cast<std::size_t>(end - pLine.begin()));
 }
 
 /// Flushes to the disk. It is no fault if the file system doesn't support that.
@@ -146,7 +169,7 @@ bool IsFile(const std::string &pPath) {
     const std::wstring path = Wide(NativePath(pPath));
     const DWORD attributes = AttributesOf(path);
     if (!path.empty() && attributes == INVALID_FILE_ATTRIBUTES) {
-        return !IsAbsence(GetLastError());
+        return !IsAbsence(GetLastError(), path);
     }
     constexpr DWORD unseen = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
     return attributes != INVALID_FILE_ATTRIBUTES && !HasAny(attributes, unseen);
@@ -171,10 +194,6 @@ void RemoveFile(const std::string &pPath) {
 
 FileReader::FileReader(const std::string &pPath) : myHandle(noHandle) {
     const std::wstring path = Wide(NativePath(pPath));
-    if (path.empty()) {
-        Tell(myFault, ERROR_INVALID_NAME);
-        return;
-    }
     if (HasAny(AttributesOf(path), FILE_ATTRIBUTE_DIRECTORY)) {
         myFault.Words("Is a folder");
         return;
@@ -203,10 +222,6 @@ std::size_t FileReader::Read(char *pRoom, std::size_t pSize) {
 
 FileWriter::FileWriter(const std::string &pPath) : myHandle(noHandle) {
     const std::wstring path = Wide(NativePath(pPath));
-    if (path.empty()) {
-        Tell(myFault, ERROR_INVALID_NAME);
-        return;
-    }
     const DWORD attributes = AttributesOf(path);
     if (HasAny(attributes, FILE_ATTRIBUTE_DIRECTORY)) {
         myFault.Words("Is a folder");
@@ -264,7 +279,8 @@ char32_t LowerCase(char32_t pCharacter) {
 std::vector<std::string> ProgramWords(int /*pCount*/, char * /*pWords*/[]) {
     // Those that main has are in the system's code page, which may lack characters of the names.
     int count = 0;
-    wchar_t **const wide = CommandLineToArgvW(GetCommandLineW(), &count);
+    const std::wstring line = L"x " + std::wstring(BehindProgramName(GetCommandLineW()));
+    wchar_t **const wide = CommandLineToArgvW(line.c_str(), &count);
     std::vector<std::string> words;
     for (int place = 1; place < count; ++place) {
         words.push_back(Utf8(wide[place], std::wcslen(wide[place])));
@@ -274,13 +290,8 @@ std::vector<std::string> ProgramWords(int /*pCount*/, char * /*pWords*/[]) {
 }
 
 std::optional<std::string> CommandLine() {
-    const std::wstring_view line = GetCommandLineW();
-    // The program's name ends at a blank or a tab, or at its second quotation mark (Microsoft C++ reference,
-    // "main function and command-line arguments").
-    const bool isQuoted = line.starts_with(L'"');
-    const std::size_t end = isQuoted ? line.find(L'"', 1) : line.find_first_of(L" \t");
-    const std::size_t from = end == std::wstring_view::npos ? line.size() : end + 1;
-    return Utf8(line.data() + from, line.size() - from);
+    const std::wstring_view line = BehindProgramName(GetCommandLineW());
+    return Utf8(line.data(), line.size());
 }
 
 void PrintUtf8() {
@@ -300,8 +311,8 @@ std::string ProgramFile() {
     }
 }
 
-void ReportWriteLimits() {
-    // This system raises no signal: a write beyond a limit fails like any other.
+void LetCallsFail() {
+    SetErrorMode(GetErrorMode() | SEM_FAILCRITICALERRORS);
 }
 
 } // namespace os

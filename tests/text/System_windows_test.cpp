@@ -74,6 +74,9 @@ TEST(WindowsFiles, ThatCannotBeWrittenAreLeftAlone) {
         EXPECT_FALSE(Write(name, "lost")) << name;
         EXPECT_FALSE(CanBeRead(name)) << name;
     }
+    EXPECT_NE(Dir("Q:\\gone.dat"), "") << "a drive that is gone is told, when its file is opened";
+    EXPECT_NE(Dir("\\\\nobody\\share\\f.dat"), "") << "so is a server";
+    EXPECT_EQ(Dir(folder.File("no folder\\f.dat")) + Dir(file + "\\below") + Dir("a*b"), "");
     SetFileAttributesA(file.c_str(), FILE_ATTRIBUTE_READONLY);
     EXPECT_FALSE(Write(file, "lost"));
     SetFileAttributesA(file.c_str(), FILE_ATTRIBUTE_NORMAL);

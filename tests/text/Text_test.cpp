@@ -1,4 +1,5 @@
 #include "text/CaseTable.h"
+#include "text/Reason.h"
 #include "text/System.h"
 #include "text/Text.h"
 
@@ -36,6 +37,18 @@ TEST(Text, LengthsCountUtf16UnitsAndTrimTakesBlanksOnly) {
     EXPECT_EQ(Trim(" \ta b\t  "), "\ta b\t");
     EXPECT_EQ(Trim(" \u00A0 "), "\u00A0");
     EXPECT_EQ(Trim("   "), "");
+}
+
+TEST(Text, ReasonHoldsWholeCharacters) {
+    std::string words = "y";
+    while (words.size() <= Reason::mostBytes) {
+        words += "ü";
+    }
+    Reason reason;
+    reason.Words(words);
+    EXPECT_EQ(reason.Words(), words.substr(0, words.size() - 2));
+    reason.Words("y" + words);
+    EXPECT_EQ(reason.Words(), ("y" + words).substr(0, Reason::mostBytes));
 }
 
 TEST(Text, LineBreaksThatAnEditBringsInBecomeBlanks) {
