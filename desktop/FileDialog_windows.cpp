@@ -2,7 +2,7 @@
 #include "desktop/FileDialog.h"
 
 #include "desktop/TextCodec.h"
-#include "text/System.h"
+#include "desktop/WindowSystem.h"
 
 #include <QDir>
 #include <QWidget>
@@ -25,9 +25,9 @@ struct FreeText {
     void operator()(wchar_t *pText) const { CoTaskMemFree(pText); }
 };
 
-/// A path as the system writes it. Qt's strings and the system's are both UTF-16.
-std::wstring Wide(const QString &pText) {
-    return pText.toStdWString();
+/// pText for the system, whose strings and Qt's are both UTF-16.
+std::wstring Wide(const std::string &pText) {
+    return ToQt(pText).toStdWString();
 }
 
 Object<IFileDialog> Create(bool pIsSave) {
@@ -37,30 +37,32 @@ Object<IFileDialog> Create(bool pIsSave) {
     return Object<IFileDialog>(dialog);
 }
 
-/// The dialog keeps the folder of the last file, unless it is given one that is there.
-void SetFolder(IFileDialog &pDialog, const std::string &pFolder) {
-    const QString folder = pFolder.empty() ? QDir::currentPath() : ToQt(pFolder);
+/// Shows the dialog in pFolder, or in the last file's folder if the system has no way to pFolder.
+bool SetFolder(IFileDialog &pDialog, const QString &pFolder) {
     IShellItem *item = nullptr;
-    SHCreateItemFromParsingName(Wide(QDir::toNativeSeparators(folder)).c_str(), nullptr, IID_IShellItem,
-                                reinterpret_cast<void **>(&item));
+    SHCreateItemFromParsingName(QDir::toNativeSeparators(pFolder).toStdWString().c_str(), nullptr,
+                                IID_IShellItem, reinterpret_cast<void **>(&item));
     const Object<IShellItem> owned(item);
-    if (item != nullptr) {
-        pDialog.SetFolder(item);
-    }
+    return item != nullptr && SUCCEEDED(pDialog.SetFolder(item));
 }
 
-void SetUp(IFileDialog &pDialog, const FileDialogRequest &pRequest) {
+bool SetUp(IFileDialog &pDialog, const FileDialogRequest &pRequest) {
     // Neither a name that isn't there nor one that is gets a question. The current folder stays.
-    pDialog.SetOptions(FOS_NOCHANGEDIR | FOS_FORCEFILESYSTEM | FOS_PATHMUSTEXIST | FOS_NOTESTFILECREATE |
-                       FOS_DONTADDTORECENT);
+    constexpr DWORD options = FOS_NOCHANGEDIR | FOS_FORCEFILESYSTEM | FOS_PATHMUSTEXIST |
+                              FOS_NOTESTFILECREATE | FOS_DONTADDTORECENT;
     if (!pRequest.pattern.empty()) {
-        const std::wstring description = Wide(ToQt(pRequest.description));
-        const std::wstring pattern = Wide(ToQt(pRequest.pattern));
+        const std::wstring description = Wide(pRequest.description);
+        const std::wstring pattern = Wide(pRequest.pattern);
         const COMDLG_FILTERSPEC filter{description.c_str(), pattern.c_str()};
         pDialog.SetFileTypes(1, &filter);
     }
-    SetFolder(pDialog, pRequest.folder);
-    pDialog.SetFileName(Wide(ToQt(pRequest.name)).c_str());
+    const QDir folder(QDir(ToQt(pRequest.folder)).absolutePath());
+    QString name = ToQt(pRequest.name);
+    if (!SetFolder(pDialog, folder.path()) && !name.isEmpty()) {
+        name = folder.filePath(name); // Elsewhere the bare name would be another file.
+    }
+    return SUCCEEDED(pDialog.SetOptions(options)) &&
+           SUCCEEDED(pDialog.SetFileName(QDir::toNativeSeparators(name).toStdWString().c_str()));
 }
 
 std::optional<std::string> Chosen(IFileDialog &pDialog) {
@@ -78,12 +80,17 @@ std::optional<std::string> Chosen(IFileDialog &pDialog) {
 } // namespace
 
 std::optional<std::string> AskForFile(QWidget *pParent, const FileDialogRequest &pRequest) {
-    const Object<IFileDialog> dialog = Create(pRequest.isSave);
-    if (dialog == nullptr) {
-        return std::nullopt;
-    }
-    SetUp(*dialog, pRequest);
     const HWND owner = pParent == nullptr ? nullptr : reinterpret_cast<HWND>(pParent->winId());
-    // A dismissed dialog still has its preset name.
-    return SUCCEEDED(dialog->Show(owner)) ? Chosen(*dialog) : std::nullopt;
+    const Object<IFileDialog> dialog = Create(pRequest.isSave);
+    const bool isReady = dialog != nullptr && SetUp(*dialog, pRequest);
+    const HRESULT shown = isReady ? dialog->Show(owner) : E_FAIL;
+    if (shown == HRESULT_FROM_WIN32(ERROR_CANCELLED)) {
+        return std::nullopt; // A dismissed dialog still has its preset name.
+    }
+    const std::optional<std::string> file = SUCCEEDED(shown) ? Chosen(*dialog) : std::nullopt;
+    if (!file) {
+        const QString title = pParent == nullptr ? QString() : pParent->windowTitle();
+        ShowPlainMessage("Windows can't show its file dialog. Nothing has changed.", FromQt(title));
+    }
+    return file;
 }

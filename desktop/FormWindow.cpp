@@ -57,7 +57,9 @@ void FormWindow::SetFrame() {
         // be minimised with them.
         setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                        Qt::WindowCloseButtonHint);
-        setPalette(LightPalette());
+        if (!IsContrastHigh()) {
+            setPalette(LightPalette());
+        }
     }
 }
 

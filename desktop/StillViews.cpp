@@ -3,6 +3,7 @@
 #include "desktop/Look.h"
 #include "desktop/TextCodec.h"
 #include "desktop/WholeText.h"
+#include "desktop/WindowSystem.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -20,9 +21,11 @@ void LabelView::Show() {
     setText(ToQtLine(myLabel.Caption(), mostShown));
     setWordWrap(height() >= 2 * fontMetrics().lineSpacing());
     if (myLabel.IsLink()) {
-        QPalette colours = palette();
-        colours.setColor(QPalette::WindowText, QColor::fromRgb(myLabel.ForeColor()));
-        setPalette(colours);
+        if (!IsContrastHigh()) {
+            QPalette colours = palette();
+            colours.setColor(QPalette::WindowText, QColor::fromRgb(myLabel.ForeColor()));
+            setPalette(colours);
+        }
         setCursor(Qt::PointingHandCursor);
     }
 }

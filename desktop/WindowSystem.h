@@ -23,11 +23,14 @@ void AskForSize(const QWidget &pWindow, QSize pSize);
 /// Whether the user holds the left mouse button down, over the frame of a window too.
 bool IsMouseHeld();
 
+/// Whether the user has chosen the system's high contrast, whose colours then go before the program's own.
+bool IsContrastHigh();
+
 /// Chooses colours and style as the user has chosen the system's, where Qt doesn't by itself. Call it before
 /// there is an application.
 void FollowSystemColours();
 
-/// Makes the system's sound for a message box, where Qt doesn't by itself.
+/// Makes the system's sound for a message box, where Qt doesn't by itself. pIsCritical: it has that icon.
 void SoundMessage(bool pIsCritical);
 
 /// Shows a text, UTF-8, in a message box that needs less memory than Qt's. Returns false where the system has

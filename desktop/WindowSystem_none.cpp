@@ -13,6 +13,10 @@ bool IsMouseHeld() {
     return false;
 }
 
+bool IsContrastHigh() {
+    return false;
+}
+
 void FollowSystemColours() {}
 
 void SoundMessage(bool /*pIsCritical*/) {}

@@ -1,6 +1,7 @@
 // Windows. Qt's sizes can be relied on here.
 #include "desktop/WindowSystem.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QWidget>
 
@@ -17,13 +18,6 @@ namespace {
 
 HWND HandleOf(const QWidget &pWindow) {
     return reinterpret_cast<HWND>(pWindow.internalWinId());
-}
-
-bool IsContrastHigh() {
-    HIGHCONTRASTW contrast{};
-    contrast.cbSize = sizeof contrast;
-    return SystemParametersInfoW(SPI_GETHIGHCONTRAST, sizeof contrast, &contrast, 0) != 0 &&
-           (contrast.dwFlags & HCF_HIGHCONTRASTON) != 0;
 }
 
 /// Whether the user has chosen dark colours for programs. The system has no call for it.
@@ -62,7 +56,15 @@ std::optional<QSize> SizeOnScreen(const QWidget & /*pWindow*/) {
 void AskForSize(const QWidget & /*pWindow*/, QSize /*pSize*/) {}
 
 bool IsMouseHeld() {
-    return GetAsyncKeyState(VK_LBUTTON) < 0;
+    // It knows the buttons by their place, and a left-handed user may have swapped them.
+    return GetAsyncKeyState(GetSystemMetrics(SM_SWAPBUTTON) != 0 ? VK_RBUTTON : VK_LBUTTON) < 0;
+}
+
+bool IsContrastHigh() {
+    HIGHCONTRASTW contrast{};
+    contrast.cbSize = sizeof contrast;
+    return SystemParametersInfoW(SPI_GETHIGHCONTRAST, sizeof contrast, &contrast, 0) != 0 &&
+           (contrast.dwFlags & HCF_HIGHCONTRASTON) != 0;
 }
 
 void FollowSystemColours() {
@@ -75,8 +77,10 @@ void FollowSystemColours() {
 }
 
 void SoundMessage(bool pIsCritical) {
-    // Qt plays sounds only once a program such as a screen reader has asked for its accessible objects.
-    MessageBeep(pIsCritical ? MB_ICONHAND : MB_OK);
+    // Once a program such as a screen reader has asked for Qt's accessible objects, Qt plays those of icons.
+    if (!pIsCritical || !QAccessible::isActive()) {
+        MessageBeep(pIsCritical ? MB_ICONHAND : MB_OK);
+    }
 }
 
 bool ShowPlainMessage(std::string_view pText, std::string_view pTitle) {

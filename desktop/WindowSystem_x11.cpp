@@ -116,6 +116,10 @@ bool IsMouseHeld() {
     return reply != nullptr && (reply->mask & XCB_BUTTON_MASK_1) != 0;
 }
 
+bool IsContrastHigh() {
+    return false;
+}
+
 void FollowSystemColours() {}
 
 void SoundMessage(bool /*pIsCritical*/) {}

@@ -33,6 +33,9 @@ void CommonDialog::ShowSave() {
 
 void CommonDialog::Show(Purpose pPurpose) {
     PathParts preset = SplitPath(myFileName);
+    if (preset.folder.empty() && !preset.name.empty()) {
+        preset.folder = "./";
+    }
     if (os::IsFolder(preset.folder)) {
         myLastFolder = preset.folder;
     } else {

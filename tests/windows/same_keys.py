@@ -63,7 +63,11 @@ class There(Here):
                 (r"HKCU\Control Panel\Desktop", "LogPixels", "REG_DWORD", str(96 * scale)),
                 (r"HKCU\Software\Wine\WineBrowser", "Browsers", "REG_SZ", shutil.which("xdg-open"))):
             self.wine("reg", "add", key, "/v", name, "/t", kind, "/d", value, "/f")
-        self.words, self.scale, self.pictures = [WINE, program], scale, pictures
+        # The command prompt hands on its line as it stands, also with half of the program's name in quotes.
+        # The command prompt hands on its line as it stands, also with half of the program's name in quotes.
+        start = folder / "start.bat"
+        start.write_text('@"%s"\\%s %%*\r\n' % (self.path(program.parent), program.name))
+        self.words, self.scale, self.pictures = [WINE, "cmd", "/c", self.path(start)], scale, pictures
 
     def wine(self, *words):
         subprocess.run([WINE, *words], check=words[0] != "wineboot", capture_output=True, env=self.environment)
@@ -158,6 +162,22 @@ def open_what_is_not_there(here):
     until(file.exists, "new.dat")
 
 
+def save_as_offered(here, name):
+    """The dialog offers a file in its own folder, however it was named at the start."""
+    file = here.folder / name
+    file.parent.mkdir(exist_ok=True)
+    x, y, _, height = hands.place(here.start(name))
+    hands.click(x + 32 * here.scale, y + height - 22 * here.scale)  # add
+    hands.key("alt+a")
+    hands.focus(here.save_title)
+    here.picture("offered")
+    hands.key("Return")
+    hands.focus(TITLE)
+    until(file.exists, name)
+    hands.key("alt+F4")
+    return here.ends()
+
+
 def work(here, share, opened):
     window = edit(here, share)
     add_and_move(here, window)
@@ -184,7 +204,8 @@ def work(here, share, opened):
     statuses = [here.ends()]
     open_what_is_not_there(here)
     hands.key("alt+F4")
-    return [*statuses, here.ends()]
+    statuses += [here.ends()]
+    return statuses + [save_as_offered(here, name) for name in ("bare.dat", "below/named.dat")]
 
 
 def main():
@@ -210,9 +231,10 @@ def main():
                 except BaseException:
                     here.picture("failed")
                     raise
-                assert statuses == [0, 0], statuses
+                assert statuses == [0] * 4, statuses
         for other in both[1:]:
-            for name in ("updated.dat", "moved.dat", "deleted.dat", "added.dat", "new.dat"):
+            for name in ("updated.dat", "moved.dat", "deleted.dat", "added.dat", "new.dat", "bare.dat",
+                         "below/named.dat"):
                 lines, wanted = ((here.folder / name).read_bytes().split(b"\r\n") for here in (other, both[0]))
                 assert lines == wanted, (name, other.scale, *next(pair for pair in zip(lines, wanted)
                                                                   if pair[0] != pair[1]))
