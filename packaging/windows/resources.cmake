@@ -2,7 +2,7 @@
 
 enable_language(RC)
 
-foreach(field IN ITEMS comments companyName fileDescription legalCopyright productName)
+foreach(field IN ITEMS comments companyName fileDescription internalName legalCopyright originalFilename productName)
     file(STRINGS "${version_record}" line REGEX " ${field} = \"" LIMIT_COUNT 1 ENCODING UTF-8)
     if(NOT line MATCHES "= \"([^\"]*)\"")
         message(FATAL_ERROR "app/VersionRecord.h does not set ${field} to a text.")
@@ -19,8 +19,7 @@ string(REPEAT "0" ${minor_zeros} minor_zeros)
 string(REPEAT "0" ${revision_zeros} revision_zeros)
 set(record_version "${version_Major}.${minor_zeros}${version_Minor}.${revision_zeros}${version_Revision}")
 
-function(add_windows_resources target description)
-    set(internal_name ${target})
+function(add_windows_resources target description internal_name original_filename)
     set(icon "${CMAKE_CURRENT_SOURCE_DIR}/packaging/windows/norvo-editdat.ico")
     set(manifest "${CMAKE_CURRENT_SOURCE_DIR}/packaging/windows/program.manifest")
     configure_file(packaging/windows/program.rc.in ${target}.rc @ONLY)
@@ -28,7 +27,8 @@ function(add_windows_resources target description)
     set_property(SOURCE "${CMAKE_CURRENT_BINARY_DIR}/${target}.rc" PROPERTY OBJECT_DEPENDS "${icon};${manifest}")
 endfunction()
 
-add_windows_resources(NorvoCheckDat "Checker of Norvo data files")
+add_windows_resources(NorvoCheckDat "Checker of Norvo data files" NorvoCheckDat NorvoCheckDat.exe)
 if(TARGET NorvoEditDat)
-    add_windows_resources(NorvoEditDat "${record_fileDescription}")
+    add_windows_resources(NorvoEditDat
+        "${record_fileDescription}" "${record_internalName}" "${record_originalFilename}")
 endif()
