@@ -86,5 +86,5 @@ void SoundMessage(bool pIsCritical) {
 bool ShowPlainMessage(std::string_view pText, std::string_view pTitle) {
     const WideText text(pText);
     const WideText title(pTitle);
-    return MessageBoxW(nullptr, text.units, title.units, MB_ICONHAND) != 0;
+    return MessageBoxW(GetActiveWindow(), text.units, title.units, MB_ICONHAND) != 0;
 }
