@@ -64,9 +64,9 @@ class There(Here):
                 (r"HKCU\Software\Wine\WineBrowser", "Browsers", "REG_SZ", shutil.which("xdg-open"))):
             self.wine("reg", "add", key, "/v", name, "/t", kind, "/d", value, "/f")
         # The command prompt hands on its line as it stands, also with half of the program's name in quotes.
-        # The command prompt hands on its line as it stands, also with half of the program's name in quotes.
+        (folder / "the program").symlink_to(program.parent)
         start = folder / "start.bat"
-        start.write_text('@"%s"\\%s %%*\r\n' % (self.path(program.parent), program.name))
+        start.write_text('@"%s"\\%s %%*\r\n' % (self.path(folder / "the program"), program.name))
         self.words, self.scale, self.pictures = [WINE, "cmd", "/c", self.path(start)], scale, pictures
 
     def wine(self, *words):
