@@ -17,6 +17,7 @@ endforeach()
 
 if(WIN32)
     install(FILES LICENSE DESTINATION . RENAME LICENSE.txt)
+    include(packaging/windows/licences.cmake)
     return()
 endif()
 

@@ -1,5 +1,5 @@
-# "cpack" makes a Debian package from a build, and for Windows a zip and an installer. "cpack --config CPackSourceConfig.cmake" makes an archive of the
-# sources.
+# "cpack" makes a Debian package from a build, and for Windows a zip and an installer.
+# "cpack --config CPackSourceConfig.cmake" makes an archive of the sources.
 
 set(CPACK_PACKAGE_NAME norvo-edit-dat)
 set(CPACK_PACKAGE_VENDOR "Norvo")
