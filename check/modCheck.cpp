@@ -111,7 +111,7 @@ std::string SpecFile(const std::string &pName, const std::string &pProgramFolder
 
 int Main(const std::vector<std::string> &pWords, const std::string &pProgramFolder,
          const std::string &pVersion, std::ostream &pOut, std::ostream &pErrors) {
-    if (pWords.size() == 1 && pWords[0] == "--help") {
+    if (pWords.size() == 1 && (pWords[0] == "--help" || pWords[0] == "/?")) {
         pOut << usage;
         return statusGood;
     }

@@ -317,6 +317,7 @@ TEST(Check, RefusesWrongWordsAndNeverReplacesAFile) {
         {"/spec a b", "2\n" + usage},
         {"/spec spec /to b", "2\n" + usage},
         {"--help", "0\n" + usage},
+        {"/?", "0\n" + usage},
         {"--version", "0\nNorvoCheckDat 1.2.3\n"},
         {"none", "2\nnone: " + std::string(TextInput("none").Fault()) + "\n"},
         {"none spec", "2\nSpecification file: none doesn't exist.\n"},
