@@ -8,3 +8,4 @@ set(CPACK_NORVO_COPYRIGHT_LINE "${record_legalCopyright}")
 set(CPACK_NORVO_ICON "${CMAKE_CURRENT_SOURCE_DIR}/packaging/windows/norvo-editdat.ico")
 # CPack looks for its own template last.
 set(CPACK_MODULE_PATH "${CMAKE_CURRENT_SOURCE_DIR}/packaging/windows")
+set(CPACK_PRE_BUILD_SCRIPTS "${CMAKE_CURRENT_SOURCE_DIR}/packaging/windows/deletions.cmake")
