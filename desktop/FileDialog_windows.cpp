@@ -1,13 +1,16 @@
-// The system's own dialog, past Qt, which would keep the last folder in the registry.
+// The system's own dialog, past Qt, which would keep the last folder in settings of its own. The system
+// itself remembers what is chosen in its dialogs, as for every program.
 #include "desktop/FileDialog.h"
 
 #include "desktop/TextCodec.h"
 #include "desktop/WindowSystem.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QWidget>
 
 #include <memory>
+#include <vector>
 
 #define WIN32_LEAN_AND_MEAN
 #include <windows.h>
@@ -37,6 +40,16 @@ Object<IFileDialog> Create(bool pIsSave) {
     return Object<IFileDialog>(dialog);
 }
 
+/// pPath without the prefix for names of any length, which the dialog doesn't know.
+QString WithoutPrefix(const QString &pPath) {
+    static const QString prefix = QStringLiteral("//?/");
+    static const QString serverPrefix = QStringLiteral("//?/UNC/");
+    if (pPath.startsWith(serverPrefix, Qt::CaseInsensitive)) {
+        return QStringLiteral("//") + pPath.sliced(serverPrefix.size());
+    }
+    return pPath.startsWith(prefix) ? pPath.sliced(prefix.size()) : pPath;
+}
+
 /// Shows the dialog in pFolder, or in the last file's folder if the system has no way to pFolder.
 bool SetFolder(IFileDialog &pDialog, const QString &pFolder) {
     IShellItem *item = nullptr;
@@ -56,13 +69,13 @@ bool SetUp(IFileDialog &pDialog, const FileDialogRequest &pRequest) {
         const COMDLG_FILTERSPEC filter{description.c_str(), pattern.c_str()};
         pDialog.SetFileTypes(1, &filter);
     }
-    const QDir folder(QDir(ToQt(pRequest.folder)).absolutePath());
+    const QDir folder(WithoutPrefix(QDir(ToQt(pRequest.folder)).absolutePath()));
     QString name = ToQt(pRequest.name);
     if (!SetFolder(pDialog, folder.path()) && !name.isEmpty()) {
         name = folder.filePath(name); // Elsewhere the bare name would be another file.
     }
-    return SUCCEEDED(pDialog.SetOptions(options)) &&
-           SUCCEEDED(pDialog.SetFileName(QDir::toNativeSeparators(name).toStdWString().c_str()));
+    pDialog.SetFileName(QDir::toNativeSeparators(name).toStdWString().c_str()); // Without it one is typed.
+    return SUCCEEDED(pDialog.SetOptions(options));
 }
 
 std::optional<std::string> Chosen(IFileDialog &pDialog) {
@@ -77,12 +90,36 @@ std::optional<std::string> Chosen(IFileDialog &pDialog) {
     return path == nullptr ? std::nullopt : std::optional(FromQt(QString::fromWCharArray(path)));
 }
 
+/// Disables the program's windows but for the dialog's owner, which the system disables, while it lives.
+class OthersDisabled {
+public:
+    explicit OthersDisabled(const QWidget *pOwner) {
+        for (const QWidget *window : QApplication::topLevelWidgets()) {
+            const HWND handle = reinterpret_cast<HWND>(window->internalWinId());
+            if (window != pOwner && window->isVisible() && EnableWindow(handle, FALSE) == FALSE) {
+                myHandles.push_back(handle);
+            }
+        }
+    }
+    ~OthersDisabled() {
+        for (const HWND handle : myHandles) {
+            EnableWindow(handle, TRUE);
+        }
+    }
+    OthersDisabled(const OthersDisabled &) = delete;
+    OthersDisabled &operator=(const OthersDisabled &) = delete;
+
+private:
+    std::vector<HWND> myHandles;
+};
+
 } // namespace
 
 std::optional<std::string> AskForFile(QWidget *pParent, const FileDialogRequest &pRequest) {
     const HWND owner = pParent == nullptr ? nullptr : reinterpret_cast<HWND>(pParent->winId());
     const Object<IFileDialog> dialog = Create(pRequest.isSave);
     const bool isReady = dialog != nullptr && SetUp(*dialog, pRequest);
+    const OthersDisabled others(pParent);
     const HRESULT shown = isReady ? dialog->Show(owner) : E_FAIL;
     if (shown == HRESULT_FROM_WIN32(ERROR_CANCELLED)) {
         return std::nullopt; // A dismissed dialog still has its preset name.

@@ -45,8 +45,8 @@ QUrl FileAddress(const std::string &pPath) {
                                    QByteArray::fromStdString(FromQt(path)).toPercentEncoding("/"));
 }
 
-/// Memory set aside for showing a message when there is no other. Nothing is written to it, so it only counts
-/// as taken once it is used.
+/// Memory set aside for showing a message when there is no other. Nothing is written to it, so most systems
+/// count it as taken only once it is used.
 constexpr std::size_t spareBytes = std::size_t{16} << 20U;
 
 /// Whether pTarget is a web address or the like. A single letter before the colon is a drive.
@@ -58,8 +58,8 @@ bool IsAddress(const std::string &pTarget) {
 } // namespace
 
 QtDesktop::QtDesktop() : mySpare(std::make_unique_for_overwrite<char[]>(spareBytes)) {
-    // Qt's file dialog writes a settings file when it closes. The program keeps no state, so the settings go
-    // to a place where Qt can't write.
+    // Where Qt's file dialog is used, it writes a settings file when it closes. The program keeps no state,
+    // so the settings go to a place where Qt can't write.
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("/dev/null"));
     QCoreApplication::instance()->installEventFilter(&myHeldKeys);
     UseOwnAccessForComboBoxes();
@@ -186,6 +186,7 @@ void QtDesktop::OpenTarget(const std::string &pTarget) {
 }
 
 void QtDesktop::EndProcess(int pStatus) {
+    KeepCopiedText();
     std::fflush(nullptr);
     std::_Exit(pStatus);
 }

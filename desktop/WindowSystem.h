@@ -33,6 +33,10 @@ void FollowSystemColours();
 /// Makes the system's sound for a message box, where Qt doesn't by itself. pIsCritical: it has that icon.
 void SoundMessage(bool pIsCritical);
 
+/// Leaves what the user has copied to other programs, where it ends with this one and Qt can't tell. Call it
+/// before the program ends.
+void KeepCopiedText();
+
 /// Shows a text, UTF-8, in a message box that needs less memory than Qt's. Returns false where the system has
 /// none, and if it can't show it.
 bool ShowPlainMessage(std::string_view pText, std::string_view pTitle);

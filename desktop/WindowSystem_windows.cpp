@@ -14,6 +14,8 @@
 #define WIN32_LEAN_AND_MEAN
 #include <windows.h>
 
+#include <ole2.h>
+
 namespace {
 
 HWND HandleOf(const QWidget &pWindow) {
@@ -81,6 +83,10 @@ void SoundMessage(bool pIsCritical) {
     if (!pIsCritical || !QAccessible::isActive()) {
         MessageBeep(pIsCritical ? MB_ICONHAND : MB_OK);
     }
+}
+
+void KeepCopiedText() {
+    OleFlushClipboard();
 }
 
 bool ShowPlainMessage(std::string_view pText, std::string_view pTitle) {

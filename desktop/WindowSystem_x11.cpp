@@ -124,6 +124,8 @@ void FollowSystemColours() {}
 
 void SoundMessage(bool /*pIsCritical*/) {}
 
+void KeepCopiedText() {}
+
 bool ShowPlainMessage(std::string_view /*pText*/, std::string_view /*pTitle*/) {
     return false;
 }
