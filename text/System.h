@@ -53,7 +53,8 @@ private:
 };
 
 /// A file whose content is replaced. The constructor empties or creates the file. A pipe or a socket is a
-/// fault and is left alone. It is no fault if a device can't be emptied or flushed.
+/// fault and is left alone. It is no fault if a device can't be emptied or flushed; on Windows a device is a
+/// fault.
 class FileWriter {
 public:
     explicit FileWriter(const std::string &pPath);

@@ -22,14 +22,19 @@ namespace {
 constexpr std::size_t mostBytesPerCall = std::size_t{1} << 30U;
 
 /// pPath as the system takes it at any length. More than 260 characters it takes as they stand only where its
-/// owner has allowed that (Microsoft Windows App Development, "Maximum Path Length Limitation").
+/// owner has allowed that (Microsoft Windows App Development, "Maximum Path Length Limitation"). Empty when a
+/// colon behind the drive's makes it name a stream in a file, which nobody would find again.
 std::wstring OfAnyLength(const std::wstring &pPath) {
     std::wstring full(GetFullPathNameW(pPath.c_str(), 0, nullptr, nullptr), L'\0');
     full.resize(GetFullPathNameW(pPath.c_str(), static_cast<DWORD>(full.size()), full.data(), nullptr));
+    const bool isPrefixed = full.starts_with(LR"(\\?\)") || full.starts_with(LR"(\\.\)");
+    if (full.find(L':', isPrefixed ? 6 : 2) != std::wstring::npos) {
+        return {};
+    }
     if (full.size() < MAX_PATH) {
         return pPath;
     }
-    if (full.starts_with(LR"(\\?\)") || full.starts_with(LR"(\\.\)")) {
+    if (isPrefixed) {
         return full;
     }
     return full.starts_with(LR"(\\)") ? LR"(\\?\UNC)" + full.substr(1) : LR"(\\?\)" + full;
@@ -71,11 +76,11 @@ void Tell(Reason &pReason, DWORD pError) {
     constexpr DWORD how =
         FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS | FORMAT_MESSAGE_MAX_WIDTH_MASK;
     const DWORD length = FormatMessageW(how, nullptr, pError, 0, words, std::size(words), nullptr);
+    const std::size_t kept = std::wstring_view(words, length).find_last_not_of(L" .\u3002\r\n") + 1;
     char bytes[3 * std::size(words)]; // A UTF-16 unit takes three bytes at most.
-    const int size = WideCharToMultiByte(CP_UTF8, 0, words, static_cast<int>(length), bytes,
+    const int size = WideCharToMultiByte(CP_UTF8, 0, words, static_cast<int>(kept), bytes,
                                          static_cast<int>(std::size(bytes)), nullptr, nullptr);
-    const std::string_view text(bytes, static_cast<std::size_t>(size));
-    pReason.Words(text.substr(0, text.find_last_not_of(" .\r\n") + 1));
+    pReason.Words(std::string_view(bytes, static_cast<std::size_t>(size)));
     if (pReason.Words().empty()) {
         pReason.Words("Fault");
     }
@@ -96,8 +101,9 @@ bool HasAny(DWORD pAttributes, DWORD pWanted) {
 
 /// Whether pPath begins with a drive that isn't there. The system's error doesn't tell that from a folder.
 bool IsDriveGone(const std::wstring &pPath) {
-    return pPath.size() > 1 && pPath[1] == L':' &&
-           GetDriveTypeW((pPath.substr(0, 2) + L'\\').c_str()) == DRIVE_NO_ROOT_DIR;
+    const std::size_t drive = pPath.starts_with(LR"(\\?\)") ? 4 : 0;
+    return pPath.size() > drive + 1 && pPath[drive + 1] == L':' &&
+           GetDriveTypeW((pPath.substr(drive, 2) + L'\\').c_str()) == DRIVE_NO_ROOT_DIR;
 }
 
 /// Whether pError says that there is nothing of the name pPath, or can't be.

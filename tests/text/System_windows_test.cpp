@@ -38,7 +38,8 @@ TEST(WindowsFiles, HaveAnyNameThatTheSystemHas) {
     }
     std::string deep = folder.File("deep");
     for (int level = 0; level < 10; ++level) {
-        ASSERT_TRUE(std::filesystem::create_directory(std::filesystem::u8path(deep)));
+        const std::wstring path = std::filesystem::path(deep).make_preferred().wstring();
+        ASSERT_TRUE(CreateDirectoryW((LR"(\\?\)" + path).c_str(), nullptr));
         deep += "\\a folder with a name of forty characters.";
         deep.back() = 'x';
     }
@@ -70,13 +71,14 @@ TEST(WindowsFiles, ThatCannotBeWrittenAreLeftAlone) {
     const std::string file = folder.File("file.dat");
     Write(file, "kept");
     for (const std::string &name :
-         {file + ".", file + " ", file + "\\below", folder.File(""), folder.File("a*b"), std::string("NUL"),
-          std::string("Q:\\gone.dat"), std::string("\\\\nobody\\share\\f.dat"), std::string("a\0b", 3),
-          std::string("\xFF.dat")}) {
+         {file + ".", file + " ", file + "\\below", folder.File(""), folder.File("a*b"),
+          folder.File("plain:stream"), std::string("NUL"), std::string("Q:\\gone.dat"),
+          std::string("\\\\nobody\\share\\f.dat"), std::string("a\0b", 3), std::string("\xFF.dat")}) {
         EXPECT_FALSE(Write(name, "lost")) << name;
         EXPECT_FALSE(CanBeRead(name)) << name;
     }
     EXPECT_NE(Dir("Q:\\gone.dat"), "") << "a drive that is gone is told, when its file is opened";
+    EXPECT_NE(Dir("Q:\\" + std::string(300, 'x')), "") << "also by a long name";
     EXPECT_NE(Dir("\\\\nobody\\share\\f.dat"), "") << "so is a server";
     EXPECT_EQ(Dir(folder.File("no folder\\f.dat")) + Dir(file + "\\below") + Dir("a*b"), "");
     SetFileAttributesA(file.c_str(), FILE_ATTRIBUTE_READONLY);
