@@ -72,7 +72,7 @@ TEST(WindowsFiles, ThatCannotBeWrittenAreLeftAlone) {
     Write(file, "kept");
     for (const std::string &name :
          {file + ".", file + " ", file + "\\below", folder.File(""), folder.File("a*b"),
-          folder.File("plain:stream"), std::string("NUL"), std::string("Q:\\gone.dat"),
+          folder.File("plain:stream"), std::string("NUL"), std::string("COM1"), std::string("Q:\\gone.dat"),
           std::string("\\\\nobody\\share\\f.dat"), std::string("a\0b", 3), std::string("\xFF.dat")}) {
         EXPECT_FALSE(Write(name, "lost")) << name;
         EXPECT_FALSE(CanBeRead(name)) << name;

@@ -72,6 +72,32 @@ class There(Here):
     def wine(self, *words):
         subprocess.run([WINE, *words], check=words[0] != "wineboot", capture_output=True, env=self.environment)
 
+    def paste_after_the_end(self):
+        """What was copied can be pasted once the editor has ended. On Linux that is up to the desktop."""
+        file = self.folder / "pasted.dat"
+        desktop = subprocess.Popen([WINE, "cmd"], stdin=subprocess.PIPE, stdout=subprocess.DEVNULL,
+                                   env=self.environment)  # Wine's lasts while a program runs.
+        self.click_first_field(file.name)
+        hands.type_text("Copied")
+        hands.key("ctrl+a", "ctrl+c", "alt+F4")
+        self.ends()
+        x, y, _, height = self.click_first_field(file.name)
+        hands.key("ctrl+v")
+        hands.click(x + 32, y + height - 22)  # add
+        hands.key("alt+a")
+        hands.focus(self.save_title)
+        hands.key("Return")
+        until(lambda: file.exists() and b"Copied" in file.read_bytes(), "what was copied")
+        hands.focus(TITLE)
+        hands.key("alt+F4")
+        self.ends()
+        desktop.communicate()
+
+    def click_first_field(self, name):
+        place = hands.place(self.start(name))
+        hands.click(place[0] + 60, place[1] + 55)
+        return place
+
     def path(self, path):
         return "Z:" + str(path).replace("/", "\\")
 
@@ -232,6 +258,7 @@ def main():
                     here.picture("failed")
                     raise
                 assert statuses == [0] * 4, statuses
+            both[1].paste_after_the_end()
         for other in both[1:]:
             for name in ("updated.dat", "moved.dat", "deleted.dat", "added.dat", "new.dat", "bare.dat",
                          "below/named.dat"):
