@@ -1,5 +1,5 @@
-# cpack runs this before it packs. It lists, for the uninstaller, the files that are installed. The installer keeps
-# their times to two seconds, and the uninstaller knows by them what has been changed.
+# cpack runs this before it packs. It lists, for the uninstaller, the files that are installed. The installer
+# keeps their times to two seconds, and the uninstaller knows by them what has been changed.
 
 if(NOT CPACK_GENERATOR STREQUAL "NSIS")
     return()
