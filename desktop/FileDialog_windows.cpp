@@ -94,7 +94,10 @@ std::optional<std::string> Chosen(IFileDialog &pDialog) {
 class OthersDisabled {
 public:
     explicit OthersDisabled(const QWidget *pOwner) {
-        for (const QWidget *window : QApplication::topLevelWidgets()) {
+        const QWidgetList windows = QApplication::topLevelWidgets();
+        myHandles.reserve(
+            static_cast<std::size_t>(windows.size())); // None stays disabled for want of memory.
+        for (const QWidget *window : windows) {
             const HWND handle = reinterpret_cast<HWND>(window->internalWinId());
             if (window != pOwner && window->isVisible() && EnableWindow(handle, FALSE) == FALSE) {
                 myHandles.push_back(handle);

@@ -17,8 +17,9 @@ public:
     /// else in the current folder.
     void InitDir(std::string pFolder) { myInitDir = std::move(pFolder); }
 
-    /// Before the dialog: the name to offer. If it has a folder, the dialog starts there. After the dialog:
-    /// the chosen path as the user gave it, or empty if the user dismissed the dialog.
+    /// Before the dialog: the name to offer. The dialog starts in its folder, which is the current one for a
+    /// bare name. After the dialog: the chosen path as the user gave it, or empty if the user dismissed the
+    /// dialog.
     const std::string &FileName() const { return myFileName; }
     void FileName(std::string pName) { myFileName = std::move(pName); }
 
