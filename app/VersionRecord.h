@@ -1,7 +1,7 @@
 #pragma once
 /// The program's version record. The version is defined only here: CMakeLists.txt reads the three numbers
 /// and passes them on to packages, metainfo and archives.
-#include "platform/Runtime.h"
+#include "forms/Runtime.h"
 
 #include <string>
 #include <string_view>

@@ -1,10 +1,10 @@
 #include "app/modMain.h"
 
+#include "app/frmMain.h"
 #include "app/modArgcArgv.h"
-#include "editor/frmMain.h"
+#include "forms/Runtime.h"
 #include "help/frmAbout.h"
-#include "platform/Runtime.h"
-#include "text/Files.h"
+#include "system/Files.h"
 #include "text/Numbers.h"
 #include "text/Text.h"
 

@@ -1,10 +1,10 @@
 #pragma once
 /// The editor without a screen: the main window, loaded for the limit table and ready for the acts of a user.
+#include "app/frmMain.h"
 #include "bench/Tables.h"
 #include "check/NoDesktop.h"
-#include "editor/frmMain.h"
+#include "forms/Runtime.h"
 #include "help/frmAbout.h"
-#include "platform/Runtime.h"
 
 class Editor {
 public:

@@ -2,9 +2,9 @@
 /// check of a text that is left, and the placing of the fields.
 #include "bench/Passes.h"
 #include "check/NoDesktop.h"
-#include "platform/ComboBox.h"
-#include "platform/Controls.h"
-#include "platform/Runtime.h"
+#include "forms/ComboBox.h"
+#include "forms/Controls.h"
+#include "forms/Runtime.h"
 #include "ui/clsCombo.h"
 #include "ui/clsLayout.h"
 

@@ -6,7 +6,7 @@
 #include "bench/Tables.h"
 #include "check/NoDesktop.h"
 #include "data/clsDatFile.h"
-#include "platform/Runtime.h"
+#include "forms/Runtime.h"
 
 #include <cstdio>
 #include <fstream>

@@ -4,9 +4,9 @@
 #include "check/NoDesktop.h"
 #include "data/clsDatFile.h"
 #include "data/modGetWords.h"
-#include "platform/Runtime.h"
-#include "text/Files.h"
-#include "text/Memory.h"
+#include "forms/Runtime.h"
+#include "system/Files.h"
+#include "system/Memory.h"
 #include "text/Text.h"
 
 #include <algorithm>

@@ -12,7 +12,7 @@
 #include "check/UnlistedValues.h"
 #include "check/WantedColumns.h"
 #include "data/clsDatFile.h"
-#include "platform/Runtime.h"
+#include "forms/Runtime.h"
 
 #include <cstdint>
 #include <optional>

@@ -1,7 +1,7 @@
 #pragma once
 /// The lines of a file as their writer meant them: CR LF, LF and CR all end a line, and they don't inside
 /// quotes. Each says whether the editor takes it for a line too.
-#include "text/Files.h"
+#include "system/Files.h"
 
 #include <cstddef>
 #include <deque>

@@ -1,7 +1,7 @@
 #pragma once
 /// A desktop without a screen, for the checker, benchmarks and fuzzers. It shows nothing and dismisses every
 /// dialog.
-#include "platform/Desktop.h"
+#include "forms/Desktop.h"
 
 #include <stdexcept>
 

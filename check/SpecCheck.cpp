@@ -1,8 +1,8 @@
 #include "check/SpecCheck.h"
 
 #include "check/DataCheck.h"
-#include "editor/SpecColumns.h"
-#include "text/Files.h"
+#include "data/SpecColumns.h"
+#include "system/Files.h"
 #include "text/Text.h"
 
 #include <algorithm>

@@ -1,8 +1,8 @@
 /// The command-line program NorvoCheckDat.
 #include "app/VersionRecord.h"
 #include "check/modCheck.h"
-#include "text/Memory.h"
-#include "text/System.h"
+#include "system/Memory.h"
+#include "system/System.h"
 
 #include <iostream>
 

@@ -2,7 +2,7 @@
 
 #include "check/DataCheck.h"
 #include "check/SpecCheck.h"
-#include "text/Files.h"
+#include "system/Files.h"
 #include "text/Text.h"
 
 #include <algorithm>

@@ -1,8 +1,8 @@
 #include "data/clsDatFile.h"
 
-#include "platform/Runtime.h"
-#include "text/Files.h"
-#include "text/Memory.h"
+#include "forms/Runtime.h"
+#include "system/Files.h"
+#include "system/Memory.h"
 #include "text/Numbers.h"
 
 #include <utility>

@@ -4,7 +4,7 @@
 #include "data/clsDatFile.h"
 
 #include "data/modGetWords.h"
-#include "text/Files.h"
+#include "system/Files.h"
 #include "text/Numbers.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 // The two writers. They write rows alike, and differ only in the line before the first row.
 #include "data/clsDatFile.h"
 
-#include "text/Files.h"
+#include "system/Files.h"
 #include "text/Numbers.h"
 #include "text/PartCopier.h"
 

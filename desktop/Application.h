@@ -1,6 +1,6 @@
 #pragma once
 /// Qt's application. It goes on when memory runs out while Qt shows something.
-#include "text/Memory.h"
+#include "system/Memory.h"
 
 #include <QApplication>
 

@@ -1,7 +1,7 @@
 #pragma once
 /// The view of a command button, with a caption or a drawn triangle.
 #include "desktop/ControlView.h"
-#include "platform/Controls.h"
+#include "forms/Controls.h"
 
 #include <QPushButton>
 

@@ -7,7 +7,7 @@
 #include "desktop/RecordList.h"
 #include "desktop/StillViews.h"
 #include "desktop/TextCodec.h"
-#include "text/Memory.h"
+#include "system/Memory.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 /// The view of one control: a widget that shows the control's state and passes on the user's acts. It
 /// remembers the control's revision, and does nothing until that changes.
 #include "desktop/Acts.h"
-#include "platform/Control.h"
+#include "forms/Control.h"
 
 #include <QWidget>
 

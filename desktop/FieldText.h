@@ -1,7 +1,7 @@
 #pragma once
 /// The text of a field, between its control and the line edit that shows it: what the user's edits make of
 /// it, with undo kept, and what is shown of a text that is too long to edit.
-#include "platform/Control.h"
+#include "forms/Control.h"
 
 #include <QLineEdit>
 

@@ -4,8 +4,8 @@
 #include "desktop/ControlView.h"
 #include "desktop/FieldText.h"
 #include "desktop/RefusalFrame.h"
-#include "platform/ComboBox.h"
-#include "platform/Controls.h"
+#include "forms/ComboBox.h"
+#include "forms/Controls.h"
 
 #include <QAbstractListModel>
 #include <QComboBox>

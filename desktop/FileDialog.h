@@ -1,7 +1,7 @@
 #pragma once
 /// A file dialog by the runtime's rules: one name, whatever its characters. Opening accepts a name that
 /// doesn't exist. Saving asks nothing and adds no suffix.
-#include "platform/Desktop.h"
+#include "forms/Desktop.h"
 
 #include <optional>
 #include <string>

@@ -1,7 +1,7 @@
 #include "desktop/FormMenu.h"
 
 #include "desktop/TextCodec.h"
-#include "platform/Form.h"
+#include "forms/Form.h"
 
 #include <QMenu>
 

@@ -1,7 +1,7 @@
 #pragma once
 /// The menu bar of a window, made from the menu items of its form.
 #include "desktop/Acts.h"
-#include "platform/Controls.h"
+#include "forms/Controls.h"
 
 #include <QAction>
 #include <QMenuBar>

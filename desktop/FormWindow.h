@@ -5,7 +5,7 @@
 #include "desktop/ControlView.h"
 #include "desktop/FocusGuard.h"
 #include "desktop/FormMenu.h"
-#include "platform/Form.h"
+#include "forms/Form.h"
 
 #include <QTimer>
 #include <QWidget>

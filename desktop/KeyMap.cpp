@@ -1,6 +1,6 @@
 #include "desktop/KeyMap.h"
 
-#include "platform/KeyCodes.h"
+#include "forms/KeyCodes.h"
 
 #include <algorithm>
 #include <array>

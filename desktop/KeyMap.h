@@ -2,7 +2,7 @@
 /// Qt's keys as the runtime's key codes.
 #include <QKeyEvent>
 
-/// The key's code, one of platform/KeyCodes.h. A shifted key has the code of the key without Shift on an
+/// The key's code, one of forms/KeyCodes.h. A shifted key has the code of the key without Shift on an
 /// American keyboard.
 int VirtualKey(const QKeyEvent &pEvent);
 

@@ -1,7 +1,7 @@
 #pragma once
 /// The look of the program, beyond the system's theme: places in pixels, the font of forms, the palette of
 /// dialogs, and the icon.
-#include "platform/Control.h"
+#include "forms/Control.h"
 
 #include <QFont>
 #include <QIcon>

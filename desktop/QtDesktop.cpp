@@ -4,9 +4,9 @@
 #include "desktop/FileDialog.h"
 #include "desktop/TextCodec.h"
 #include "desktop/WindowSystem.h"
-#include "platform/Runtime.h"
-#include "text/Memory.h"
-#include "text/System.h"
+#include "forms/Runtime.h"
+#include "system/Memory.h"
+#include "system/System.h"
 
 #include <QApplication>
 #include <QDesktopServices>

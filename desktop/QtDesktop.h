@@ -3,7 +3,7 @@
 #include "desktop/Acts.h"
 #include "desktop/FormWindow.h"
 #include "desktop/HeldKeys.h"
-#include "platform/Desktop.h"
+#include "forms/Desktop.h"
 
 #include <QPointer>
 

@@ -1,6 +1,6 @@
 #pragma once
 /// The rows of a ListView as a Qt model. It reads them in the list and keeps no copy.
-#include "platform/ListView.h"
+#include "forms/ListView.h"
 
 #include <QAbstractTableModel>
 

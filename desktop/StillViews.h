@@ -1,7 +1,7 @@
 #pragma once
 /// The views of the controls that take no focus: label, picture, line.
 #include "desktop/ControlView.h"
-#include "platform/Controls.h"
+#include "forms/Controls.h"
 
 #include <QLabel>
 

@@ -1,6 +1,6 @@
 #pragma once
 /// The search for a record by the letters that the user types in the list.
-#include "platform/ListView.h"
+#include "forms/ListView.h"
 
 #include <QElapsedTimer>
 #include <QString>

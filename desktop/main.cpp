@@ -6,8 +6,8 @@
 #include "desktop/Look.h"
 #include "desktop/QtDesktop.h"
 #include "desktop/WindowSystem.h"
-#include "platform/Runtime.h"
-#include "text/System.h"
+#include "forms/Runtime.h"
+#include "system/System.h"
 
 #include <memory>
 #include <optional>

@@ -1,6 +1,6 @@
 // Button states. They depend on the number of rows and on the selected row, which are read from the list
 // each time.
-#include "editor/frmMain.h"
+#include "app/frmMain.h"
 
 void frmMain::UpdateButtons() {
     UpdateDelButton();

@@ -1,10 +1,10 @@
 // Building the fields: the labels, fields, list columns and layout tags of the form, one of each for every
 // column of the specification.
-#include "editor/frmMain.h"
+#include "app/frmMain.h"
 
-#include "editor/SpecColumns.h"
-#include "platform/Runtime.h"
-#include "text/Files.h"
+#include "data/SpecColumns.h"
+#include "forms/Runtime.h"
+#include "system/Files.h"
 #include "text/Numbers.h"
 #include "text/Text.h"
 

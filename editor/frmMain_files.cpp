@@ -1,9 +1,9 @@
 // Files and leaving. Records go from a data file into the list and back; the data table only carries them
 // between the two.
-#include "editor/frmMain.h"
-#include "platform/Runtime.h"
-#include "text/Files.h"
-#include "text/Memory.h"
+#include "app/frmMain.h"
+#include "forms/Runtime.h"
+#include "system/Files.h"
+#include "system/Memory.h"
 #include "text/Numbers.h"
 
 namespace {

@@ -1,8 +1,8 @@
 // Moving records between the fields and the list, whose rows are the working copy. The caption of cmdAdd is
 // the only state: "Update" while the fields hold the selected row.
-#include "editor/frmMain.h"
+#include "app/frmMain.h"
 
-#include "text/Memory.h"
+#include "system/Memory.h"
 #include "text/Numbers.h"
 
 TextField &frmMain::Field(int pIndex) const {

@@ -5,8 +5,8 @@
 /// A target is a source file *_fuzz.cpp that defines RequireLaws. It finds broken laws as well as crashes.
 #include "check/NoDesktop.h"
 #include "data/clsDatFile.h"
-#include "platform/Runtime.h"
-#include "text/System.h"
+#include "forms/Runtime.h"
+#include "system/System.h"
 
 #include <cmath>
 #include <cstdio>

@@ -3,7 +3,7 @@
 /// The first byte chooses the form and whether there is a specification.
 #include "check/DataCheck.h"
 #include "check/SpecCheck.h"
-#include "editor/SpecColumns.h"
+#include "data/SpecColumns.h"
 #include "fuzz/FuzzSupport.h"
 
 namespace {

@@ -1,9 +1,9 @@
 /// Option strings, on a form that grows and shrinks. The first four bytes are the growth in width and height,
 /// the rest is the option string. The control moves by the shares that strtod reads, or stays when its string
 /// is unfit. Its neighbour follows its own string, whatever the first one is.
+#include "forms/Controls.h"
+#include "forms/Form.h"
 #include "fuzz/FuzzSupport.h"
-#include "platform/Controls.h"
-#include "platform/Form.h"
 #include "ui/clsLayout.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #include "help/frmAbout.h"
 
+#include "forms/Runtime.h"
 #include "help/modBrowseTo.h"
-#include "platform/Runtime.h"
 #include "text/Numbers.h"
 
 #ifndef NORVO_HOME_PAGE

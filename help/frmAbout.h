@@ -1,7 +1,7 @@
 #pragma once
 /// The About box: the version record and a link to the maker's page. It does not depend on the main window.
-#include "platform/Controls.h"
-#include "platform/Form.h"
+#include "forms/Controls.h"
+#include "forms/Form.h"
 
 class frmAbout {
 public:

@@ -1,7 +1,7 @@
 #include "help/modBrowseTo.h"
 
-#include "platform/Runtime.h"
-#include "text/Files.h"
+#include "forms/Runtime.h"
+#include "system/Files.h"
 
 namespace modBrowseTo {
 

@@ -1,6 +1,6 @@
 #include "text/Text.h"
 
-#include "text/System.h"
+#include "system/System.h"
 
 #include <algorithm>
 #include <limits>

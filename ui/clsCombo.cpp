@@ -1,9 +1,9 @@
 #include "ui/clsCombo.h"
 
-#include "platform/ComboBox.h"
-#include "platform/KeyCodes.h"
-#include "text/Files.h"
-#include "text/Memory.h"
+#include "forms/ComboBox.h"
+#include "forms/KeyCodes.h"
+#include "system/Files.h"
+#include "system/Memory.h"
 #include "text/Text.h"
 
 #include <utility>

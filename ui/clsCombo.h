@@ -1,7 +1,7 @@
 #pragma once
 /// Makes a combo box a field for data entry: fills its list from a text file, keeps the focus while the text
 /// isn't listed, and completes typed text. It serves the box during its own lifetime; the form owns the box.
-#include "text/Reason.h"
+#include "system/Reason.h"
 
 #include <cstdint>
 #include <string>

@@ -1,6 +1,6 @@
 #include "ui/clsLayout.h"
 
-#include "platform/Form.h"
+#include "forms/Form.h"
 #include "text/Numbers.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "ui/clsListViewRpt.h"
 
-#include "platform/ListView.h"
+#include "forms/ListView.h"
 #include "text/Numbers.h"
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-#include "platform/ComboBox.h"
+#include "forms/ComboBox.h"
 #include "tests/support/Program.h"
 #include "tests/support/Scarcity.h"
 

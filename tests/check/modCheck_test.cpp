@@ -1,7 +1,7 @@
 #include "check/modCheck.h"
 
+#include "system/Files.h"
 #include "tests/support/TemporaryFolder.h"
-#include "text/Files.h"
 
 #include <algorithm>
 #include <sstream>

@@ -1,6 +1,6 @@
 #include "data/clsDatFile.h"
 
-#include "platform/Runtime.h"
+#include "forms/Runtime.h"
 #include "tests/support/ScriptedDesktop.h"
 #include "tests/support/TemporaryFolder.h"
 

@@ -3,10 +3,10 @@
 /// system would deliver them. The sessions on a real screen test the ways out of a field, the menu and the
 /// whole program, so these tests don't.
 #include "desktop/QtDesktop.h"
-#include "platform/ComboBox.h"
-#include "platform/Controls.h"
-#include "platform/ListView.h"
-#include "platform/Runtime.h"
+#include "forms/ComboBox.h"
+#include "forms/Controls.h"
+#include "forms/ListView.h"
+#include "forms/Runtime.h"
 #include "ui/clsLayout.h"
 
 #include <QApplication>

@@ -1,6 +1,6 @@
 // The main window's form: its design, the fields that the specification adds, and its layout.
-#include "platform/ComboBox.h"
-#include "platform/Controls.h"
+#include "forms/ComboBox.h"
+#include "forms/Controls.h"
 #include "tests/support/Program.h"
 
 #include <sstream>

@@ -1,8 +1,8 @@
 #include "tests/support/Program.h"
 
-#include "platform/ComboBox.h"
-#include "platform/Controls.h"
-#include "platform/KeyCodes.h"
+#include "forms/ComboBox.h"
+#include "forms/Controls.h"
+#include "forms/KeyCodes.h"
 
 #include <regex>
 #include <stdexcept>

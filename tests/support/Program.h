@@ -4,8 +4,8 @@
 /// files. The script answers messages and file dialogs.
 #include "app/VersionRecord.h"
 #include "app/modMain.h"
-#include "platform/ListView.h"
-#include "platform/Runtime.h"
+#include "forms/ListView.h"
+#include "forms/Runtime.h"
 #include "tests/support/ScriptedDesktop.h"
 #include "tests/support/TemporaryFolder.h"
 

@@ -2,7 +2,7 @@
 /// The desktop of the tests. A test queues beforehand which messages and file dialogs it expects and how the
 /// user answers them. A message or dialog that wasn't expected, that comes in another order or with another
 /// text, fails the test. So does one that never comes.
-#include "platform/Desktop.h"
+#include "forms/Desktop.h"
 #include "tests/support/Scarcity.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
+#include "system/Reason.h"
+#include "system/System.h"
 #include "text/CaseTable.h"
-#include "text/Reason.h"
-#include "text/System.h"
 #include "text/Text.h"
 
 #include <gtest/gtest.h>

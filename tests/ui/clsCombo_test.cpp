@@ -1,8 +1,8 @@
 #include "ui/clsCombo.h"
 
-#include "platform/ComboBox.h"
-#include "platform/KeyCodes.h"
-#include "platform/Runtime.h"
+#include "forms/ComboBox.h"
+#include "forms/KeyCodes.h"
+#include "forms/Runtime.h"
 #include "tests/support/ScriptedDesktop.h"
 #include "text/Text.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 /// Text files: Dir looks for them, TextInput reads them by lines and items, TextOutput writes them line by
 /// line. The rule for line ends is kept only here: CR or CR LF ends a line, LF alone does not.
-#include "text/System.h"
+#include "system/System.h"
 
 #include <memory>
 #include <optional>

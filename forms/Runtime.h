@@ -1,7 +1,7 @@
 #pragma once
 /// The process as the program sees it: command line, version record, messages, forms, and the end.
-#include "platform/Desktop.h"
-#include "platform/Form.h"
+#include "forms/Desktop.h"
+#include "forms/Form.h"
 
 #include <functional>
 #include <memory>

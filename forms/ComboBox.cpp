@@ -1,7 +1,7 @@
-#include "platform/ComboBox.h"
+#include "forms/ComboBox.h"
 
-#include "platform/KeyCodes.h"
-#include "text/Memory.h"
+#include "forms/KeyCodes.h"
+#include "system/Memory.h"
 #include "text/Text.h"
 
 #include <algorithm>

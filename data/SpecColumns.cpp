@@ -1,7 +1,7 @@
-#include "editor/SpecColumns.h"
+#include "data/SpecColumns.h"
 
 #include "data/clsDatFile.h"
-#include "text/Files.h"
+#include "system/Files.h"
 #include "text/Numbers.h"
 #include "text/Text.h"
 

@@ -1,7 +1,7 @@
-#include "platform/Runtime.h"
+#include "forms/Runtime.h"
 
-#include "platform/Control.h"
-#include "text/Memory.h"
+#include "forms/Control.h"
+#include "system/Memory.h"
 
 #include <algorithm>
 #include <cstdlib>

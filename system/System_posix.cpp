@@ -1,4 +1,4 @@
-#include "text/System.h"
+#include "system/System.h"
 
 #include <cerrno>
 #include <climits>

@@ -1,8 +1,8 @@
 // The form as designed: the controls with their places, captions and layout rules, and the handler of each
 // event.
-#include "editor/frmMain.h"
+#include "app/frmMain.h"
 
-#include "platform/Runtime.h"
+#include "forms/Runtime.h"
 
 namespace {
 

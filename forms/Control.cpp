@@ -1,4 +1,4 @@
-#include "platform/Control.h"
+#include "forms/Control.h"
 
 #include <utility>
 

@@ -1,4 +1,4 @@
-#include "editor/SpecColumns.h"
+#include "data/SpecColumns.h"
 
 #include "data/clsDatFile.h"
 #include "tests/support/Program.h"

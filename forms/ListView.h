@@ -1,8 +1,8 @@
 #pragma once
 /// The list control in report view: items, each of a text and sub items, under column headings. At most one
 /// item is selected. Places count from 1. A desktop reads the rows here and keeps no copy.
-#include "platform/Control.h"
-#include "platform/Event.h"
+#include "forms/Control.h"
+#include "forms/Event.h"
 #include "text/TextRow.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
-#include "platform/Controls.h"
+#include "forms/Controls.h"
 
-#include "text/Memory.h"
+#include "system/Memory.h"
 #include "text/Text.h"
 
 void Label::Caption(std::string pCaption) {

@@ -1,9 +1,9 @@
-#include "platform/CommonDialog.h"
+#include "forms/CommonDialog.h"
 
-#include "platform/Desktop.h"
-#include "platform/Form.h"
-#include "platform/Runtime.h"
-#include "text/System.h"
+#include "forms/Desktop.h"
+#include "forms/Form.h"
+#include "forms/Runtime.h"
+#include "system/System.h"
 #include "text/Text.h"
 
 #include <algorithm>

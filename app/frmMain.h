@@ -2,11 +2,11 @@
 /// The main window: its form, the dispatcher of application commands, and the handlers of its events. Each of
 /// its files frmMain_*.cpp holds the members of one topic.
 #include "data/clsDatFile.h"
-#include "platform/ComboBox.h"
-#include "platform/CommonDialog.h"
-#include "platform/Controls.h"
-#include "platform/Form.h"
-#include "platform/ListView.h"
+#include "forms/ComboBox.h"
+#include "forms/CommonDialog.h"
+#include "forms/Controls.h"
+#include "forms/Form.h"
+#include "forms/ListView.h"
 #include "ui/clsCombo.h"
 #include "ui/clsLayout.h"
 #include "ui/clsListViewRpt.h"

@@ -1,6 +1,6 @@
-#include "platform/ListView.h"
+#include "forms/ListView.h"
 
-#include "text/Memory.h"
+#include "system/Memory.h"
 #include "text/Text.h"
 
 #include <algorithm>

@@ -1,8 +1,8 @@
-#include "editor/frmMain.h"
+#include "app/frmMain.h"
 
+#include "forms/Runtime.h"
 #include "help/frmAbout.h"
 #include "help/modBrowseTo.h"
-#include "platform/Runtime.h"
 #include "text/Numbers.h"
 #include "text/Text.h"
 

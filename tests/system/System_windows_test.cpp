@@ -1,5 +1,5 @@
+#include "system/Files.h"
 #include "tests/support/TemporaryFolder.h"
-#include "text/Files.h"
 #include "text/Text.h"
 
 #include <gtest/gtest.h>

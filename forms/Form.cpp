@@ -1,9 +1,9 @@
-#include "platform/Form.h"
+#include "forms/Form.h"
 
-#include "platform/Controls.h"
-#include "platform/Desktop.h"
-#include "platform/Runtime.h"
-#include "text/Memory.h"
+#include "forms/Controls.h"
+#include "forms/Desktop.h"
+#include "forms/Runtime.h"
+#include "system/Memory.h"
 
 namespace {
 

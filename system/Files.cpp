@@ -1,4 +1,4 @@
-#include "text/Files.h"
+#include "system/Files.h"
 
 #include "text/Cursor.h"
 

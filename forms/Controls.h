@@ -2,8 +2,8 @@
 /// The simple controls: label, text box, button, menu item, and the parts of a dialog that take no input
 /// (picture, line). Each act of the user has its function, such as Press, which the desktop and the tests
 /// call alike.
-#include "platform/Control.h"
-#include "platform/Event.h"
+#include "forms/Control.h"
+#include "forms/Event.h"
 
 #include <cstdint>
 #include <string>

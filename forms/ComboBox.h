@@ -1,8 +1,8 @@
 #pragma once
 /// A combo box: a field over a list of entries. The box itself accepts any text; a client uses the events
 /// KeyUp and Validate to complete and refuse texts.
-#include "platform/Control.h"
-#include "platform/Event.h"
+#include "forms/Control.h"
+#include "forms/Event.h"
 
 #include <string>
 #include <vector>

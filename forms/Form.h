@@ -1,8 +1,8 @@
 #pragma once
 /// A form: the caption, size and state of a window, its controls, and its events. It needs no screen. A
 /// desktop shows it, and calls the User... functions below when the user acts on the window.
-#include "platform/Control.h"
-#include "platform/Event.h"
+#include "forms/Control.h"
+#include "forms/Event.h"
 
 #include <memory>
 #include <stdexcept>

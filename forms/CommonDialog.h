@@ -1,7 +1,7 @@
 #pragma once
 /// The common file dialog. A client sets its properties, shows it, and then finds the chosen path in
 /// FileName. This class decides which folder and name the dialog starts with; the desktop shows the dialog.
-#include "platform/Control.h"
+#include "forms/Control.h"
 
 #include <string>
 

@@ -1,7 +1,7 @@
 #pragma once
 /// The calls of the operating system that the program needs, with one implementation for POSIX and one for
 /// Windows. Paths are UTF-8; NativePath gives the rule for separators.
-#include "text/Reason.h"
+#include "system/Reason.h"
 
 #include <cstddef>
 #include <cstdint>
