@@ -43,9 +43,7 @@ public:
     const std::string &Fault() const { return myTable.Fault(); }
 
 private:
-    NoDesktop myDesktop;
-    Runtime myRuntime{myDesktop, {}, ""};
-    clsDatFile myTable{myRuntime};
+    clsDatFile myTable{[](std::string_view /*pText*/) { std::terminate(); }};
 };
 
 /// The checker, which opens a file to check it, and saves it as a clean copy.

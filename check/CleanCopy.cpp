@@ -1,10 +1,8 @@
 #include "check/CleanCopy.h"
 
 #include "check/MeantCells.h"
-#include "check/NoDesktop.h"
 #include "data/clsDatFile.h"
 #include "data/modGetWords.h"
-#include "forms/Runtime.h"
 #include "system/Files.h"
 #include "system/Memory.h"
 #include "text/Text.h"
@@ -180,9 +178,7 @@ void CleanCopy::Write(const std::string &pFile) {
 }
 
 bool CleanCopy::Fill(const std::string &pFile) {
-    NoDesktop desktop;
-    const Runtime runtime(desktop, {}, "");
-    clsDatFile table(runtime);
+    clsDatFile table([](std::string_view /*pText*/) { std::terminate(); }); // It has rows and columns.
     table.FileName(pFile);
     table.Fmt(myFmt);
     table.Headers(myTitles);
@@ -193,8 +189,7 @@ bool CleanCopy::Fill(const std::string &pFile) {
         table.Row(row, myRows[static_cast<std::size_t>(row)]);
     }
     table.Save();
-    // What it says then is about the editor's list, and about a file that won't stay.
-    myFault = table.Fault().substr(0, table.Fault().find(" The records"));
+    myFault = table.Cause();
     if (myFault.empty() && !ReadsBack(pFile)) {
         myFault = "it did not come back as it was written";
     }

@@ -67,7 +67,8 @@ void DataCheck::LoadAsEditor() {
     myTable.Headers(TitlesOf(myWanted));
     try {
         myTable.Load();
-    } catch (const NoDesktop::ProgramEnded &) {
+    } catch (const EditorEnded &end) {
+        myLastMessage = end.message;
         myEndsProgram = true;
         return;
     }
@@ -265,7 +266,7 @@ void DataCheck::RequireAllShown() {
         return;
     }
     const std::string fault = WithoutName(myTable.Fault(), myFindings.File());
-    const std::string ends = "the editor ends with the message " + myDesktop.LastMessage();
+    const std::string ends = "the editor ends with the message " + myLastMessage;
     myFindings.Add(Kind::Lost, 1, Sort::FirstLine,
                    myEndsProgram    ? ends
                    : !fault.empty() ? fault

@@ -8,11 +8,9 @@
 #include "check/LineEnds.h"
 #include "check/MeantCells.h"
 #include "check/MeantLines.h"
-#include "check/NoDesktop.h"
 #include "check/UnlistedValues.h"
 #include "check/WantedColumns.h"
 #include "data/clsDatFile.h"
-#include "forms/Runtime.h"
 
 #include <cstdint>
 #include <optional>
@@ -80,10 +78,13 @@ private:
     Findings &myFindings;
     CleanCopy *myCopy;
 
-    NoDesktop myDesktop;
-    Runtime myRuntime{myDesktop, {}, ""};
-    clsDatFile myTable{myRuntime};
+    /// Thrown where the editor would end, with its last message.
+    struct EditorEnded {
+        std::string message;
+    };
+    clsDatFile myTable{[](std::string_view pText) { throw EditorEnded{std::string(pText)}; }};
     bool myEndsProgram = false;
+    std::string myLastMessage; ///< of the editor, when it ends
     std::size_t myRowsRead = 0;
 
     MeantLines myLines;

@@ -65,10 +65,6 @@ std::string ReadRow(const clsDatFile &pSpec, std::int16_t pRow, SpecColumn &pCol
 
 } // namespace
 
-std::string SpecColumn::Tag() const {
-    return "X=" + FormatWhole(place) + "/100 W=" + FormatWhole(percent) + "/100";
-}
-
 std::string SpecColumn::ListPath(const std::string &pProgramFolder) const {
     return Dir(listFile).empty() ? pProgramFolder + "\\" + listFile : listFile;
 }

@@ -16,9 +16,6 @@ struct SpecColumn {
     std::string listFile;         ///< of a combo box, as the specification names it
     std::int16_t mode = 0;        ///< of a combo box, as clsCombo takes it
 
-    /// The option string that makes label and field follow the window's width.
-    std::string Tag() const;
-
     /// Where the list file is: as named if Dir finds it there, else below pProgramFolder.
     std::string ListPath(const std::string &pProgramFolder) const;
 };

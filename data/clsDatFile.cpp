@@ -1,10 +1,10 @@
 #include "data/clsDatFile.h"
 
-#include "forms/Runtime.h"
 #include "system/Files.h"
 #include "system/Memory.h"
 #include "text/Numbers.h"
 
+#include <exception>
 #include <utility>
 
 namespace {
@@ -12,14 +12,17 @@ namespace {
 /// Room for the words of a fault beside the file's name: the system's reason, and our own.
 constexpr std::size_t mostFaultBytes = Reason::mostBytes + 250;
 
-[[noreturn]] void StopOutOfBounds(const Runtime &pRuntime, const std::string &pWhat, std::int16_t pValue) {
-    pRuntime.Stop("clsDatFile." + pWhat + " out of bounds (" + Str(pValue) + ")");
+constexpr std::string_view notEnoughMemory = "There is not enough memory for it";
+
+std::string OutOfBounds(const std::string &pWhat, std::int16_t pValue) {
+    return "clsDatFile." + pWhat + " out of bounds (" + Str(pValue) + ")";
 }
 
 } // namespace
 
 void clsDatFile::FileName(std::string fn) {
     myFault.reserve(fn.size() + mostFaultBytes);
+    myCause.reserve(mostFaultBytes);
     myFn = std::move(fn);
 }
 
@@ -33,14 +36,14 @@ std::string clsDatFile::FileType() const {
 
 void clsDatFile::Rows(std::int16_t n) {
     if (n < 1) {
-        StopOutOfBounds(myRuntime, "Rows", n);
+        Stop(OutOfBounds("Rows", n));
     }
     myRows = n;
 }
 
 void clsDatFile::Cols(std::int16_t n) {
     if (n < 1) {
-        StopOutOfBounds(myRuntime, "Cols", n);
+        Stop(OutOfBounds("Cols", n));
     }
     myCols = n;
 }
@@ -96,6 +99,7 @@ void clsDatFile::Clear() {
 
 void clsDatFile::Load() {
     myFault.clear();
+    myCause.clear();
     myWasRead = true;
     const bool isDone = HasMemoryFor([this] {
         const Headroom headroom;
@@ -116,11 +120,12 @@ void clsDatFile::Load() {
 }
 
 void clsDatFile::GiveUpLoading() {
-    LeaveUnread({"can't be read: There is not enough memory for it."});
+    LeaveUnread("can't be read: ", {notEnoughMemory}, ".");
 }
 
 void clsDatFile::Save() {
     myFault.clear();
+    myCause.clear();
     const bool isDone = HasMemoryFor([this] {
         switch (myFmt) {
         case fmtDat:
@@ -135,35 +140,44 @@ void clsDatFile::Save() {
     });
     if (!isDone) {
         // The writers get all their memory before they touch the file.
-        KeepFault({"can't be saved: There is not enough memory for it. The records are still in the list."});
+        KeepFault("can't be saved: ", {notEnoughMemory}, {". The records are still in the list."});
     }
+}
+
+void clsDatFile::Stop(const std::string &pText) const {
+    myStop(pText);
+    std::terminate();
 }
 
 void clsDatFile::StopWithoutFileName() const {
     if (myFn.empty()) {
-        myRuntime.Stop("clsDatFile.Load: Filename not set");
+        Stop("clsDatFile.Load: Filename not set");
     }
 }
 
 /// Needs no memory: FileName has got it.
-void clsDatFile::KeepFault(std::initializer_list<std::string_view> pText) {
-    myFault.assign("File ").append(myFn).append(" ");
-    for (const std::string_view piece : pText) {
+void clsDatFile::KeepFault(std::string_view pBefore, Pieces pCause, Pieces pAfter) {
+    myCause.clear();
+    for (const std::string_view piece : pCause) {
+        myCause.append(piece);
+    }
+    myFault.assign("File ").append(myFn).append(" ").append(pBefore).append(myCause);
+    for (const std::string_view piece : pAfter) {
         myFault.append(piece);
     }
 }
 
-void clsDatFile::LeaveUnread(std::initializer_list<std::string_view> pWhy) {
+void clsDatFile::LeaveUnread(std::string_view pBefore, Pieces pCause, std::string_view pAfter) {
     EmptyTable(0);
     myWasRead = false;
-    KeepFault(pWhy);
+    KeepFault(pBefore, pCause, {pAfter});
 }
 
 bool clsDatFile::TakeFaultOf(const TextInput &pFile) {
     if (pFile.Fault().empty()) {
         return false;
     }
-    LeaveUnread({"can't be read: ", pFile.Fault(), "."});
+    LeaveUnread("can't be read: ", {pFile.Fault()}, ".");
     return true;
 }
 

@@ -5,13 +5,13 @@
 #include "text/TextRow.h"
 
 #include <cstdint>
+#include <functional>
 #include <initializer_list>
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
 
-class Runtime;
 class TextInput;
 class TextOutput;
 
@@ -24,7 +24,10 @@ public:
     static constexpr std::int16_t fmtCsv = 1;            ///< rows alone
     static constexpr std::int16_t fmtCsvWithHeaders = 2; ///< a header line, then rows
 
-    explicit clsDatFile(const Runtime &pRuntime) : myRuntime(pRuntime) {}
+    /// Shows a text to the user and ends the program. It must not return.
+    using Stopper = std::function<void(std::string_view pText)>;
+
+    explicit clsDatFile(Stopper pStop) : myStop(std::move(pStop)) {}
 
     /// Also gets the memory for all that Fault may have to say of this file. If there is none, the name stays
     /// as it was.
@@ -78,6 +81,9 @@ public:
     /// What went wrong with the file at the last Load or Save, in a sentence for the user that names the
     /// file. Empty when nothing did.
     const std::string &Fault() const { return myFault; }
+    /// The cause of that fault alone: the system's reason, such as "File too large", or what is wrong in the
+    /// file, to be read after its name, such as "is too short. It ...".
+    const std::string &Cause() const { return myCause; }
     /// Whether the last Load could read the file. If not, the table is empty. If so, any fault concerns the
     /// number of records: the file holds fewer than its first line announces, or that line announces no
     /// number that can be used.
@@ -92,14 +98,16 @@ private:
     void SaveDat();
     void SaveCsv(bool pHasHeaders);
 
+    [[noreturn]] void Stop(const std::string &pText) const;
     void StopWithoutFileName() const;
     bool TakeFaultOf(const TextInput &pFile);
     void TakeSizeFrom(TextInput &pFile);
     void TakeAnnouncedRowsFrom(TextInput &pFile);
     void TakeRowsUpToARaggedOne(TextInput &pFile);
     void EmptyTable(int pCols);
-    void LeaveUnread(std::initializer_list<std::string_view> pWhy);
-    void KeepFault(std::initializer_list<std::string_view> pText);
+    using Pieces = std::initializer_list<std::string_view>;
+    void LeaveUnread(std::string_view pBefore, Pieces pCause, std::string_view pAfter = "");
+    void KeepFault(std::string_view pBefore, Pieces pCause, Pieces pAfter = {});
 
     std::size_t MostLineBytes(const TextRow &pTitles) const;
     void PrintRow(TextOutput &pFile, const TextRow &pCells) const;
@@ -108,7 +116,7 @@ private:
 
     bool IsStored(int pRow, int pCol) const;
 
-    const Runtime &myRuntime;
+    Stopper myStop;
     std::string myFn;
     std::int16_t myFmt = fmtDat;
     std::int16_t myRows = 0;
@@ -119,5 +127,6 @@ private:
     std::vector<TextRow> myData;
     std::int16_t myStoredCols = 0;
     std::string myFault;
+    std::string myCause;
     bool myWasRead = true;
 };

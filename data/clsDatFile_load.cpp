@@ -36,8 +36,8 @@ void clsDatFile::TakeSizeFrom(TextInput &pFile) {
     if (!fittingRows && rows > mostRows) {
         EmptyTable(*fittingCols);
         const std::string announced = rows < mostShownRows ? FormatWhole(rows) : "far too many";
-        KeepFault({"announces ", announced, " records. A table holds at most ", std::to_string(mostRows),
-                   ", so none were read."});
+        KeepFault("", {"announces ", announced, " records. A table holds at most ", std::to_string(mostRows),
+                       ", so none were read."});
         return;
     }
     if (!fittingRows || *fittingRows < 0) {
@@ -49,7 +49,7 @@ void clsDatFile::TakeSizeFrom(TextInput &pFile) {
     Clear();
     if (!WholeNumber(*rowsItem)) {
         // Without a message the user would take the empty list for the file, and save over it.
-        KeepFault({"doesn't begin with the number of its records, so none were read."});
+        KeepFault("", {"doesn't begin with the number of its records, so none were read."});
     }
 }
 
@@ -66,8 +66,8 @@ void clsDatFile::TakeAnnouncedRowsFrom(TextInput &pFile) {
     TextRowRoom room;
     for (std::int16_t row = 0; row < myRows; ++row) {
         if (pFile.AtEnd()) {
-            KeepFault({"is too short. Its first line announces ", std::to_string(myRows),
-                       " records, but it holds only ", std::to_string(row), "."});
+            KeepFault("", {"is too short. Its first line announces ", std::to_string(myRows),
+                           " records, but it holds only ", std::to_string(row), "."});
             myRows = row;
             myData.resize(static_cast<std::size_t>(row));
             return;
@@ -108,8 +108,8 @@ void clsDatFile::LoadCsv(bool pHasHeaders) {
         return;
     }
     if (first.Count() > modGetWords::mostWords) {
-        LeaveUnread(
-            {"has too many columns. A table holds at most ", std::to_string(modGetWords::mostWords), "."});
+        LeaveUnread("", {"has too many columns. A table holds at most ",
+                         std::to_string(modGetWords::mostWords), "."});
         return;
     }
     Cols(static_cast<std::int16_t>(first.Count()));
@@ -120,8 +120,8 @@ void clsDatFile::LoadCsv(bool pHasHeaders) {
         return;
     }
     if (std::cmp_greater(myData.size(), mostRows)) {
-        LeaveUnread({"has too many records. A table holds at most ", std::to_string(mostRows),
-                     ", so none were read."});
+        LeaveUnread("", {"has too many records. A table holds at most ", std::to_string(mostRows),
+                         ", so none were read."});
         return;
     }
     Rows(static_cast<std::int16_t>(myData.size()));

@@ -98,7 +98,8 @@ void clsDatFile::SaveCsv(bool pHasHeaders) {
 void clsDatFile::Finish(TextOutput &pFile) {
     pFile.Close();
     if (!pFile.Fault().empty()) {
-        KeepFault({"can't be saved: ", pFile.Fault(), ". The records are still in the list.",
+        KeepFault("can't be saved: ", {pFile.Fault()},
+                  {". The records are still in the list.",
                    pFile.MayBeIncomplete() ? " The file itself may now be incomplete." : ""});
     }
 }

@@ -16,6 +16,11 @@ constexpr double fieldTop = 360;
 constexpr double fieldHeight = 315;
 constexpr double gapTwips = 10; // between neighbouring fields
 
+/// The option string that makes label and field of pColumn follow the window's width.
+std::string Tag(const SpecColumn &pColumn) {
+    return "X=" + FormatWhole(pColumn.place) + "/100 W=" + FormatWhole(pColumn.percent) + "/100";
+}
+
 } // namespace
 
 void frmMain::StopOnSpecification(std::string_view pPrompt) {
@@ -25,7 +30,8 @@ void frmMain::StopOnSpecification(std::string_view pPrompt) {
 }
 
 void frmMain::AppLoad() {
-    mySpec = std::make_unique<clsDatFile>(myRuntime);
+    const auto stop = [this](std::string_view pText) { myRuntime.Stop(pText); };
+    mySpec = std::make_unique<clsDatFile>(stop);
     mySpec->FileName(mySpecFile);
     if (!mySpec->Exists()) {
         StopOnSpecification("Specification file: " + mySpecFile + " doesn't exist.");
@@ -35,7 +41,7 @@ void frmMain::AppLoad() {
     if (!columns.Fault().empty()) {
         StopOnSpecification("Error in specification file:\n" + mySpecFile + "\n" + columns.Fault());
     }
-    myDat = std::make_unique<clsDatFile>(myRuntime);
+    myDat = std::make_unique<clsDatFile>(stop);
     BuildList(columns);
     BuildFields(columns);
     UpdateButtons();
@@ -62,11 +68,11 @@ void frmMain::BuildFields(const SpecColumns &pColumns) {
         auto &label = myForm.Add<Label>("lbl" + suffix);
         label.Move(x, labelTop, w - gapTwips, labelHeight);
         label.Caption(" " + column.heading);
-        label.Tag(column.Tag());
+        label.Tag(Tag(column));
 
         TextField &field = AddField("cbo" + suffix, column);
         field.Move(x, fieldTop, w - gapTwips, fieldHeight);
-        field.Tag(column.Tag());
+        field.Tag(Tag(column));
         field.AccessibleName(std::string(Trim(column.heading)));
         x += w;
     }

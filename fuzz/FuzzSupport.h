@@ -3,9 +3,7 @@
 /// implementations of the rules for lines and numbers, to compare the program with.
 ///
 /// A target is a source file *_fuzz.cpp that defines RequireLaws. It finds broken laws as well as crashes.
-#include "check/NoDesktop.h"
 #include "data/clsDatFile.h"
-#include "forms/Runtime.h"
 #include "system/System.h"
 
 #include <cmath>
@@ -72,8 +70,8 @@ struct TableProbe {
         table.Fmt(pFmt);
         try {
             table.Load();
-        } catch (const NoDesktop::ProgramEnded &end) {
-            return end.what();
+        } catch (const ProgramStopped &stop) {
+            return stop.text;
         }
         return std::nullopt;
     }
@@ -97,9 +95,10 @@ struct TableProbe {
         return cells;
     }
 
-    NoDesktop desktop;
-    Runtime runtime{desktop, {}, ""};
-    clsDatFile table{runtime};
+    struct ProgramStopped {
+        std::string text;
+    };
+    clsDatFile table{[](std::string_view pText) { throw ProgramStopped{std::string(pText)}; }};
 };
 
 // Other implementations of the program's rules.

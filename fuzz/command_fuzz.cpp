@@ -1,6 +1,7 @@
 /// The command text. A second implementation of the rules splits it into the same words. Words from a shell
 /// (here with a NUL between them) come out as they went in, unless one of them holds a quotation mark.
 #include "app/modArgcArgv.h"
+#include "forms/Runtime.h"
 #include "fuzz/FuzzSupport.h"
 
 #include <algorithm>

@@ -3,7 +3,9 @@
 /// is unfit. Its neighbour follows its own string, whatever the first one is.
 #include "forms/Controls.h"
 #include "forms/Form.h"
+#include "forms/Runtime.h"
 #include "fuzz/FuzzSupport.h"
+#include "tests/support/NoDesktop.h"
 #include "ui/clsLayout.h"
 
 #include <algorithm>

@@ -79,9 +79,6 @@ private:
     bool myWasEmptied = false;
 };
 
-/// pCharacter in lower case by Unicode's simple mappings, the same on all systems and in every locale.
-char32_t LowerCase(char32_t pCharacter);
-
 /// The words after the program's name on its command line, which main has as pCount and pWords.
 std::vector<std::string> ProgramWords(int pCount, char *pWords[]);
 

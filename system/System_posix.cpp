@@ -5,7 +5,6 @@
 #include <clocale>
 #include <csignal>
 #include <cstring>
-#include <cwctype>
 #include <utility>
 
 #include <fcntl.h>
@@ -179,12 +178,6 @@ void FileWriter::Close() {
     if (Fault().empty() && (!Flush(Descriptor(myHandle)) || !GiveBack(myHandle))) {
         myFault.Words(WordsFor(errno));
     }
-}
-
-char32_t LowerCase(char32_t pCharacter) {
-    static const locale_t unicode = newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
-    return unicode == nullptr ? pCharacter
-                              : static_cast<char32_t>(towlower_l(static_cast<wint_t>(pCharacter), unicode));
 }
 
 std::vector<std::string> ProgramWords(int pCount, char *pWords[]) {

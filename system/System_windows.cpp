@@ -1,7 +1,5 @@
 #include "system/System.h"
 
-#include "text/CaseTable.h"
-
 #include <algorithm>
 #include <cstdlib>
 #include <cwchar>
@@ -276,10 +274,6 @@ void FileWriter::Close() {
     if (Fault().empty() && (!Flush(Native(myHandle)) || !GiveBack(myHandle))) {
         TellLast(myFault);
     }
-}
-
-char32_t LowerCase(char32_t pCharacter) {
-    return LowerCaseByTable(pCharacter);
 }
 
 std::vector<std::string> ProgramWords(int /*pCount*/, char * /*pWords*/[]) {

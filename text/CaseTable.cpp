@@ -80,7 +80,7 @@ constexpr std::array runs = std::to_array<Run>({
 
 } // namespace
 
-char32_t LowerCaseByTable(char32_t pCharacter) {
+char32_t LowerCase(char32_t pCharacter) {
     const auto isBefore = [](const Run &pRun, char32_t pWanted) { return pRun.last < pWanted; };
     const auto run = std::lower_bound(runs.begin(), runs.end(), pCharacter, isBefore);
     const bool isIn =

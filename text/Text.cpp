@@ -1,6 +1,6 @@
 #include "text/Text.h"
 
-#include "system/System.h"
+#include "text/CaseTable.h"
 
 #include <algorithm>
 #include <limits>
@@ -31,7 +31,7 @@ char32_t Folded(const CodePoint &pCodePoint) {
         const bool isCapital = pCodePoint.value >= U'A' && pCodePoint.value <= U'Z';
         return isCapital ? pCodePoint.value + (U'a' - U'A') : pCodePoint.value;
     }
-    return pCodePoint.isValid ? os::LowerCase(pCodePoint.value) : pCodePoint.value;
+    return pCodePoint.isValid ? LowerCase(pCodePoint.value) : pCodePoint.value;
 }
 
 /// Whether two characters differ in case at most. A stray byte never equals the character of the same number.

@@ -30,7 +30,7 @@ inline std::string_view Trim(std::string_view pText) {
     return pText;
 }
 
-/// pText in lower case, character by character, by the system's own rule for Unicode.
+/// pText in lower case, character by character, the same on all systems and in every locale.
 std::string LCase(std::string_view pText);
 
 /// Whether LCase gives the same text for both.

@@ -8,9 +8,7 @@ namespace {
 /// The columns of a specification file of these bytes, or its fault without the file's name.
 std::string Read(const std::string &pBytes) {
     const TemporaryFolder folder;
-    ScriptedDesktop desktop;
-    const Runtime runtime(desktop, {}, "");
-    clsDatFile spec(runtime);
+    clsDatFile spec([](std::string_view pText) { throw std::logic_error(std::string(pText)); });
     spec.FileName(folder.Write("spec", CrLf(pBytes)));
     spec.Load();
     const SpecColumns columns(spec);
@@ -19,7 +17,8 @@ std::string Read(const std::string &pBytes) {
     }
     std::string text;
     for (const SpecColumn &c : columns.All()) {
-        text += c.heading + "|" + std::to_string(c.listPercent) + "|" + c.Tag() + "|" +
+        text += c.heading + "|" + std::to_string(c.listPercent) + "|" + std::to_string(c.place) + "|" +
+                testing::PrintToString(c.percent) + "|" +
                 (c.isTextBox ? "text" : c.listFile + " " + std::to_string(c.mode)) + "\n";
     }
     return text;
@@ -31,11 +30,11 @@ TEST(SpecColumns, AreTheRowsOfASpecificationOrItsFirstFault) {
     const std::string noNumber = ", which is not a number from -32768 to 32767.";
     const std::string nines(61, '9');
     const std::pair<std::string, std::string> cases[] = {
-        // The list, the tag and the mode each read their number in their own way.
+        // The list, the field and the mode each read their number in their own way.
         {"7,4\n,12.5,99999,-\nB,12.5,x,--\nC,1e1,-1,\"\"\nD,0,2.5,-\nE,1,2.5,list.txt\nF,0.5,0,-\nG,1,0,-\n",
-         "|12|X=0/100 W=13/100|text\nB|12|X=12/100 W=13/100|-- 0\nC|10|X=24/100 W=10/100| -1\n"
-         "D|0|X=34/100 W=0/100|text\nE|1|X=34/100 W=1/100|list.txt 2\n"
-         "F|0|X=35/100 W=1/100|text\nG|1|X=36/100 W=1/100|text\n"},
+         "|12|0|12.5|text\nB|12|12|12.5|-- 0\nC|10|24|10| -1\n"
+         "D|0|34|0|text\nE|1|34|1|list.txt 2\n"
+         "F|0|35|0.5|text\nG|1|36|1|text\n"},
         {"", "It should have 4 columns."},
         {"0,4\n", "It has no rows."},
         {"2,4\na,1,0,-\n", "is too short. Its first line announces 2 records, but it holds only 1."},

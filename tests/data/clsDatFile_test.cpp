@@ -1,7 +1,5 @@
 #include "data/clsDatFile.h"
 
-#include "forms/Runtime.h"
-#include "tests/support/ScriptedDesktop.h"
 #include "tests/support/TemporaryFolder.h"
 
 using namespace std::string_view_literals;
@@ -55,9 +53,7 @@ protected:
     }
 
     TemporaryFolder myFiles;
-    ScriptedDesktop myDesktop;
-    Runtime myRuntime{myDesktop, {}, ""};
-    clsDatFile myTable{myRuntime};
+    clsDatFile myTable{[](std::string_view pText) { throw std::logic_error(std::string(pText)); }};
 };
 
 } // namespace

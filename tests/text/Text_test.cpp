@@ -1,16 +1,24 @@
 #include "system/Reason.h"
-#include "system/System.h"
 #include "text/CaseTable.h"
 #include "text/Text.h"
 
 #include <gtest/gtest.h>
 
-TEST(Text, HasTheSameLowerCaseOnAllSystems) {
+#ifdef __GLIBC__
+#include <clocale>
+#include <cwctype>
+
+// The C library has the same mappings from the same source.
+TEST(Text, LowerCaseIsUnicodes) {
+    const locale_t unicode = newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
     constexpr char32_t beyondUnicode = 0x110000;
     for (char32_t character = 1; character < beyondUnicode; ++character) {
-        ASSERT_EQ(LowerCaseByTable(character), os::LowerCase(character)) << static_cast<unsigned>(character);
+        ASSERT_EQ(LowerCase(character), towlower_l(static_cast<wint_t>(character), unicode))
+            << static_cast<unsigned>(character);
     }
+    freelocale(unicode);
 }
+#endif
 
 TEST(Text, ComparisonsIgnoreCaseAndNothingElse) {
     for (const auto &[text, lower] : {std::pair("Az[09] ÉLAN ß ЖУК", "az[09] élan ß жук"),

@@ -1,5 +1,5 @@
 #pragma once
-/// A desktop without a screen, for the checker, benchmarks and fuzzers. It shows nothing and dismisses every
+/// A desktop without a screen, for benchmarks and fuzzers. It shows nothing and dismisses every
 /// dialog.
 #include "forms/Desktop.h"
 
