@@ -8,6 +8,8 @@
 #include <cmath>
 #include <iterator>
 #include <limits>
+#include <locale>
+#include <sstream>
 
 namespace {
 
@@ -42,39 +44,15 @@ std::string_view LeadingNumber(std::string_view pText) {
     return text.PassedSince(0);
 }
 
-/// The value of a number beyond the range of a double: an infinity or 0. The place of its
-/// first nonzero digit plus the exponent tells which. The exponent itself may be too long for an integer.
-double BeyondDouble(std::string_view pNumber) {
-    const bool negative = pNumber.front() == '-';
-    const std::size_t letter = pNumber.find_first_of("eE");
-    const std::string_view mantissa = pNumber.substr(0, letter);
-    const std::size_t first = mantissa.find_first_of("123456789");
-    if (first == std::string_view::npos) {
-        return 0;
-    }
-    const std::size_t point = std::min(mantissa.find('.'), mantissa.size());
-    const double place = static_cast<double>(point) - static_cast<double>(first);
-    double exponent = 0;
-    if (letter != std::string_view::npos) {
-        for (const char digit : pNumber.substr(letter + 1)) {
-            exponent = IsDigit(digit) ? exponent * 10 + (digit - '0') : exponent;
-        }
-        exponent = pNumber[letter + 1] == '-' ? -exponent : exponent;
-    }
-    if (place + exponent < 0) {
-        return 0;
-    }
-    const double infinite = std::numeric_limits<double>::infinity();
-    return negative ? -infinite : infinite;
-}
-
-/// The value of pNumber, which LeadingNumber has found.
+/// The value of pNumber, which LeadingNumber has found. Unlike strtod, a stream of its own follows no locale.
 double ValueOf(std::string_view pNumber) {
-    const std::string_view unsignedPlus = pNumber.front() == '+' ? pNumber.substr(1) : pNumber;
+    std::istringstream number{std::string(pNumber)};
+    number.imbue(std::locale::classic());
+    number.exceptions(std::ios::badbit); // A lack of memory would pass for the number 0.
     double value = 0;
-    const auto [end, error] =
-        std::from_chars(unsignedPlus.data(), unsignedPlus.data() + unsignedPlus.size(), value);
-    return error == std::errc::result_out_of_range ? BeyondDouble(pNumber) : value;
+    number >> value;
+    // One too large gives the largest double, and failure.
+    return number.fail() ? std::copysign(std::numeric_limits<double>::infinity(), value) : value;
 }
 
 template <typename Whole> std::optional<Whole> Narrowed(double pValue) {

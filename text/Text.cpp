@@ -1,6 +1,7 @@
 #include "text/Text.h"
 
 #include "text/CaseTable.h"
+#include "text/Difference.h"
 
 #include <algorithm>
 #include <limits>
@@ -146,23 +147,14 @@ std::string WithoutNewLineBreaks(std::string_view pBefore, std::string_view pAft
     if (std::none_of(pAfter.begin(), pAfter.end(), IsLineBreak)) {
         return std::string(pAfter);
     }
-    // The edit lies between the common start and the common end.
-    const std::size_t most = std::min(pBefore.size(), pAfter.size());
-    std::size_t front = 0;
-    while (front < most && pBefore[front] == pAfter[front]) {
-        ++front;
-    }
-    std::size_t back = 0;
-    while (back < most - front && pBefore[pBefore.size() - 1 - back] == pAfter[pAfter.size() - 1 - back]) {
-        ++back;
-    }
-    std::string text(pAfter.substr(0, front));
-    std::size_t end = pAfter.size() - back;
+    const Difference edit = DifferenceBetween(pBefore, pAfter);
+    std::string text(pAfter.substr(0, edit.start));
+    std::size_t end = edit.start + edit.after;
     const std::string_view kept = pAfter.substr(end);
-    while (end > front && IsLineBreak(pAfter[end - 1])) {
+    while (end > edit.start && IsLineBreak(pAfter[end - 1])) {
         --end;
     }
-    for (std::size_t at = front; at < end; ++at) {
+    for (std::size_t at = edit.start; at < end; ++at) {
         const bool isPair = pAfter[at] == '\r' && at + 1 < end && pAfter[at + 1] == '\n';
         at += isPair ? 1 : 0;
         text += IsLineBreak(pAfter[at]) ? ' ' : pAfter[at];
