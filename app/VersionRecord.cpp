@@ -1,31 +1,44 @@
 #include "app/VersionRecord.h"
 
-#include "text/Numbers.h"
+#include "forms/Runtime.h"
 
-std::string versionRecord::FileVersion() {
-    return std::to_string(versionMajor) + "." + FormatDigits(versionMinor, 2) + "." +
-           FormatDigits(versionRevision, 4);
+#include <charconv>
+
+namespace {
+
+/// Where in pProgramFile the name begins.
+std::size_t NameIn(const std::string &pProgramFile) {
+#ifdef _WIN32
+    return pProgramFile.find_last_of("/\\") + 1;
+#else
+    return pProgramFile.find_last_of('/') + 1;
+#endif
+}
+
+} // namespace
+
+std::string ProgramFolder(const std::string &pProgramFile) {
+    const std::size_t nameAt = NameIn(pProgramFile);
+    return pProgramFile.substr(0, nameAt == 0 ? 0 : nameAt - 1);
 }
 
 AppRecord MakeAppRecord(const std::string &pProgramFile) {
-#ifdef _WIN32
-    const std::size_t nameAt = pProgramFile.find_last_of("/\\") + 1;
-#else
-    const std::size_t nameAt = pProgramFile.find_last_of('/') + 1;
-#endif
-    const std::string name = pProgramFile.substr(nameAt);
+    const std::string name = pProgramFile.substr(NameIn(pProgramFile));
     const std::size_t dot = name.find_last_of('.');
     const bool hasExtension = dot != std::string::npos && dot > 0;
 
     AppRecord app;
-    app.Path = pProgramFile.substr(0, nameAt == 0 ? 0 : nameAt - 1);
+    app.Path = ProgramFolder(pProgramFile);
     app.EXEName = hasExtension ? name.substr(0, dot) : name;
     app.ProductName = versionRecord::productName;
     app.FileDescription = versionRecord::fileDescription;
     app.Comments = versionRecord::comments;
     app.LegalCopyright = versionRecord::legalCopyright;
-    app.Major = versionRecord::versionMajor;
-    app.Minor = versionRecord::versionMinor;
-    app.Revision = versionRecord::versionRevision;
+    const char *digits = versionRecord::fileVersion.data();
+    const char *const end = digits + versionRecord::fileVersion.size();
+    for (int *const part : {&app.Major, &app.Minor, &app.Revision}) {
+        const char *const stop = std::from_chars(digits, end, *part).ptr;
+        digits = stop == end ? end : stop + 1;
+    }
     return app;
 }

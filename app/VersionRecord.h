@@ -1,16 +1,13 @@
 #pragma once
-/// The program's version record. The version is defined only here: CMakeLists.txt reads the three numbers
-/// and passes them on to packages, metainfo and archives.
-#include "forms/Runtime.h"
-
+/// The program's version record. The version is defined only here: CMakeLists.txt reads it and passes it on
+/// to packages, metainfo and archives.
 #include <string>
 #include <string_view>
 
 namespace versionRecord {
 
-inline constexpr int versionMajor = 1;
-inline constexpr int versionMinor = 0;
-inline constexpr int versionRevision = 20;
+/// FileVersion and ProductVersion: major, minor in two digits, revision in four.
+inline constexpr std::string_view fileVersion = "1.00.0020";
 
 inline constexpr std::string_view comments = "Easily edit data files.";
 inline constexpr std::string_view companyName = "Norvo";
@@ -20,10 +17,11 @@ inline constexpr std::string_view internalName = "NorvoEditDat";
 inline constexpr std::string_view originalFilename = "NorvoEditDat.exe";
 inline constexpr std::string_view legalCopyright = "© 2026 the authors";
 
-/// FileVersion and ProductVersion, such as "1.00.0020".
-std::string FileVersion();
-
 } // namespace versionRecord
 
-/// The record as the running program sees it. pProgramFile is the full path of the program's file.
+/// The folder of the program whose file has the full path pProgramFile, without a closing separator.
+std::string ProgramFolder(const std::string &pProgramFile);
+
+struct AppRecord;
+/// The record as that program sees it.
 AppRecord MakeAppRecord(const std::string &pProgramFile);

@@ -11,10 +11,11 @@ int main(int argc, char *argv[]) {
     std::ios::sync_with_stdio(false);
     os::PrintUtf8();
     const std::vector<std::string> words = os::ProgramWords(argc, argv);
-    const std::string folder = MakeAppRecord(os::ProgramFile()).Path;
+    const std::string folder = ProgramFolder(os::ProgramFile());
     int status = modCheck::statusImpossible;
-    const bool hasMemory = HasMemoryFor(
-        [&] { status = modCheck::Main(words, folder, versionRecord::FileVersion(), std::cout, std::cerr); });
+    const bool hasMemory = HasMemoryFor([&] {
+        status = modCheck::Main(words, folder, std::string(versionRecord::fileVersion), std::cout, std::cerr);
+    });
     if (!hasMemory) {
         std::cerr << "There is not enough memory.\n";
     }

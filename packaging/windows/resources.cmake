@@ -10,15 +10,6 @@ foreach(field IN ITEMS comments companyName fileDescription internalName legalCo
     set(record_${field} "${CMAKE_MATCH_1}")
 endforeach()
 
-# As versionRecord::FileVersion writes it.
-string(LENGTH "${version_Minor}" minor_length)
-string(LENGTH "${version_Revision}" revision_length)
-math(EXPR minor_zeros "2 - ${minor_length}")
-math(EXPR revision_zeros "4 - ${revision_length}")
-string(REPEAT "0" ${minor_zeros} minor_zeros)
-string(REPEAT "0" ${revision_zeros} revision_zeros)
-set(record_version "${version_Major}.${minor_zeros}${version_Minor}.${revision_zeros}${version_Revision}")
-
 function(add_windows_resources target description internal_name original_filename)
     set(icon "${CMAKE_CURRENT_SOURCE_DIR}/packaging/windows/norvo-editdat.ico")
     set(manifest "${CMAKE_CURRENT_SOURCE_DIR}/packaging/windows/program.manifest")
