@@ -1,15 +1,13 @@
 #pragma once
-/// Other ways to read and write a .dat file, to compare the program with on the same bytes. The fastest do
-/// only what every program must do; the slowest keep each cell in a std::string. Readers that return rows
-/// return the first line as a row, too. Like the program, writers flush the file to the disk before they
-/// close it.
+/// Other ways to read and write a .dat file, to compare the program with on the same bytes: libcsv, which
+/// keeps each cell in a std::string and returns the first line as a row too, and the least that any program
+/// must do. Like the program, writers flush the file to the disk before they close it.
 #include "bench/Tables.h"
 
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
-#include <fstream>
 #include <memory>
 #include <string_view>
 
@@ -43,7 +41,7 @@ struct Buffer {
     std::size_t size = 0;
 };
 
-/// Reads the file and does nothing else; the memory for it isn't cleared first. No reader can do less.
+/// Reads the file and does nothing else; the memory for it isn't cleared first.
 inline Buffer ReadWhole(const std::string &pFile) {
     const FilePointer file = Open(pFile, "rb");
     const std::size_t size = std::filesystem::file_size(pFile);
@@ -101,35 +99,8 @@ inline References SplitIntoReferences(const std::string &pFile) {
     return result;
 }
 
-/// The first idea that comes to mind: std::getline, and a vector of strings for each row.
-inline std::vector<Tables::Row> ReadByGetline(const std::string &pFile) {
-    std::vector<Tables::Row> rows;
-    std::ifstream file(pFile, std::ios::binary);
-    for (std::string line; std::getline(file, line);) {
-        Tables::Row &row = rows.emplace_back();
-        std::string cell;
-        bool isInQuotes = false;
-        char before = ',';
-        for (const char character : line) {
-            if (character == '"') {
-                cell.append(!isInQuotes && before == '"' ? 1 : 0, '"');
-                isInQuotes = !isInQuotes;
-            } else if (character == ',' && !isInQuotes) {
-                row.push_back(cell);
-                cell.clear();
-            } else if (character != '\r') {
-                cell += character;
-            }
-            before = character;
-        }
-        row.push_back(cell);
-    }
-    return rows;
-}
-
 /// What libcsv has found so far.
 struct Collector {
-    bool makesRoom;
     std::vector<Tables::Row> rows;
     Tables::Row row;
 };
@@ -140,18 +111,15 @@ inline void TakeLibcsvField(void *pText, std::size_t pLength, void *pCollector) 
 
 inline void TakeLibcsvRow(int /*pCharacter*/, void *pCollector) {
     auto &collector = *static_cast<Collector *>(pCollector);
-    const std::size_t room = collector.makesRoom ? collector.row.size() : 0;
     collector.rows.push_back(std::move(collector.row));
     collector.row = {};
-    collector.row.reserve(room);
 }
 
-/// libcsv, fed by blocks as its manual says. Each cell becomes a string in the vector of its row. With
-/// makesRoom that vector has room from the start for as many cells as the row before it.
-template <bool makesRoom> std::vector<Tables::Row> ReadByLibcsv(const std::string &pFile) {
+/// libcsv, fed by blocks as its manual says. Each cell becomes a string in the vector of its row.
+inline std::vector<Tables::Row> ReadByLibcsv(const std::string &pFile) {
     const FilePointer file = Open(pFile, "rb");
     const auto block = std::make_unique_for_overwrite<char[]>(blockBytes);
-    Collector collector{makesRoom, {}, {}};
+    Collector collector;
     csv_parser parser;
     csv_init(&parser, 0);
     while (const std::size_t count = std::fread(block.get(), 1, blockBytes, file.get())) {
@@ -175,24 +143,8 @@ inline void PlainWrite(const std::string &pFile, const Table &pTable) {
     FlushToDisk(file);
 }
 
-/// Quotes cell after cell into a block, and writes the block when it is full.
-inline void QuoteInBlocks(const std::string &pFile, const Table &pTable) {
-    const FilePointer file = Open(pFile, "wb");
-    std::string block = Tables::SizeLine(pTable.cells);
-    for (const Tables::Row &row : pTable.cells) {
-        Tables::AppendRow(block, row);
-        if (block.size() >= blockBytes) {
-            Put(file, block);
-            block.clear();
-        }
-    }
-    Put(file, block);
-    FlushToDisk(file);
-}
-
-/// Writes the table, each cell by pWriteCell.
-template <typename WriteCell>
-void WriteCells(const std::string &pFile, const Table &pTable, WriteCell pWriteCell) {
+/// libcsv's writer for files, csv_fwrite2.
+inline void WriteByLibcsv(const std::string &pFile, const Table &pTable) {
     const FilePointer file = Open(pFile, "wb");
     Put(file, Tables::SizeLine(pTable.cells));
     for (const Tables::Row &row : pTable.cells) {
@@ -200,29 +152,11 @@ void WriteCells(const std::string &pFile, const Table &pTable, WriteCell pWriteC
             if (&cell != &row.front()) {
                 std::putc(',', file.get());
             }
-            pWriteCell(file, cell);
+            csv_fwrite2(file.get(), cell.data(), cell.size(), '"');
         }
         Put(file, "\r\n");
     }
     FlushToDisk(file);
-}
-
-/// libcsv's writer for files, csv_fwrite2.
-inline void WriteByLibcsvFwrite(const std::string &pFile, const Table &pTable) {
-    WriteCells(pFile, pTable, [](const FilePointer &pTo, const std::string &pCell) {
-        csv_fwrite2(pTo.get(), pCell.data(), pCell.size(), '"');
-    });
-}
-
-/// libcsv's writer for memory, csv_write2, and fwrite. Its manual advises this to those who need to know how
-/// much was written.
-inline void WriteByLibcsvWrite(const std::string &pFile, const Table &pTable) {
-    std::string field;
-    WriteCells(pFile, pTable, [&field](const FilePointer &pTo, const std::string &pCell) {
-        field.resize(2 * pCell.size() + 2); // Each character may be a quote.
-        const std::size_t length = csv_write2(field.data(), field.size(), pCell.data(), pCell.size(), '"');
-        Put(pTo, {field.data(), length});
-    });
 }
 
 } // namespace Peers

@@ -1,8 +1,6 @@
 /// Reading and writing a table, in fresh memory. It compares
-///   Load with libcsv and getline, which also give cells to keep, and with the bare loop and reading the file
-///   whole, which do less;
-///   Save with libcsv's two writers and quoting in blocks, which also start from cells, and with a plain
-///   write of the finished bytes, which does less;
+///   Load with libcsv, which also gives cells to keep, and with the bare loop, which does less;
+///   Save with libcsv, which also starts from cells, and with a plain write of the finished bytes;
 ///   AppOpen with Load, and AppSave with Save;
 ///   Check with Load, and Copy, which checks, loads and saves, with Load and Save.
 /// All writers flush the file. In memory that costs nothing. To measure it too, name a folder on a disk in
@@ -93,10 +91,6 @@ bool Holds(const Peers::References &pReferences, Cells pWanted) {
            std::string_view(&pReferences.buffer.bytes[last.at], last.length) == pWanted.back().back();
 }
 
-bool Holds(const Peers::Buffer &pBuffer, Cells pWanted) {
-    return pBuffer.size == Tables::FileText(dat, pWanted).size();
-}
-
 /// What a benchmark is measured on, by its size.
 using Source = Cells (*)(std::int64_t);
 
@@ -162,17 +156,12 @@ constexpr auto Copy = Write<Checker>;
 MEASURE_EACH_FORM(Load)
 BENCHMARK_CAPTURE(Load, field, dat, Tables::LongField)->Name("LoadLongField")->Apply(ConfigureField);
 MEASURE_EACH_FORM(AppOpen)
-BENCHMARK_CAPTURE(ReadPeer, libcsv, Peers::ReadByLibcsv<false>)->Apply(Passes::ConfigureRows);
-BENCHMARK_CAPTURE(ReadPeer, libcsv_room, Peers::ReadByLibcsv<true>)->Apply(Passes::ConfigureRows);
-BENCHMARK_CAPTURE(ReadPeer, getline, Peers::ReadByGetline)->Apply(Passes::ConfigureRows);
+BENCHMARK_CAPTURE(ReadPeer, libcsv, Peers::ReadByLibcsv)->Apply(Passes::ConfigureRows);
 BENCHMARK_CAPTURE(ReadPeer, references, Peers::SplitIntoReferences)->Apply(Passes::ConfigureRows);
-BENCHMARK_CAPTURE(ReadPeer, whole, Peers::ReadWhole)->Apply(Passes::ConfigureRows);
 MEASURE_EACH_FORM(Save)
 BENCHMARK_CAPTURE(Save, field, dat, Tables::LongField)->Name("SaveLongField")->Apply(ConfigureField);
 MEASURE_EACH_FORM(AppSave)
-BENCHMARK_CAPTURE(WritePeer, libcsv_fwrite, Peers::WriteByLibcsvFwrite)->Apply(Passes::ConfigureRows);
-BENCHMARK_CAPTURE(WritePeer, libcsv_write, Peers::WriteByLibcsvWrite)->Apply(Passes::ConfigureRows);
-BENCHMARK_CAPTURE(WritePeer, blocks, Peers::QuoteInBlocks)->Apply(Passes::ConfigureRows);
+BENCHMARK_CAPTURE(WritePeer, libcsv, Peers::WriteByLibcsv)->Apply(Passes::ConfigureRows);
 BENCHMARK_CAPTURE(WritePeer, plain, Peers::PlainWrite)->Apply(Passes::ConfigureRows);
 MEASURE_EACH_FORM(Check)
 MEASURE_EACH_FORM(Copy)

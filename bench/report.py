@@ -21,14 +21,9 @@ FORMS = {"dat": ".dat", "csv": ".csv", "csvh": ".csv with header"}
 # as long it takes.
 COMPARED = (
     ("Load", "Load/%s", "libcsv, cells kept", "ReadPeer/libcsv", ">= 4"),
-    ("Load", "Load/%s", "libcsv, rows with room", "ReadPeer/libcsv_room", "-"),
     ("Load", "Load/%s", "bare reference loop", "ReadPeer/references", ">= 0.7"),
-    ("Load", "Load/%s", "getline", "ReadPeer/getline", "-"),
-    ("Load", "Load/%s", "reading alone", "ReadPeer/whole", "-"),
     ("AppOpen", "AppOpen/%s", "Load", "Load/%s", "<= 1.5"),
-    ("Save", "Save/%s", "libcsv, csv_fwrite2", "WritePeer/libcsv_fwrite", ">= 2.5"),
-    ("Save", "Save/%s", "libcsv, csv_write2", "WritePeer/libcsv_write", ">= 2.5"),
-    ("Save", "Save/%s", "quoting in blocks", "WritePeer/blocks", "-"),
+    ("Save", "Save/%s", "libcsv", "WritePeer/libcsv", ">= 2.5"),
     ("Save", "Save/%s", "plain write", "WritePeer/plain", "<= 3"),
     ("AppSave", "AppSave/%s", "Save", "Save/%s", "<= 1.5"),
     ("Check", "Check/%s", "Load", "Load/%s", "<= 2"),
