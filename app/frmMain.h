@@ -1,6 +1,6 @@
 #pragma once
-/// The main window: its form, the dispatcher of application commands, and the handlers of its events. Each of
-/// its files frmMain_*.cpp holds the members of one topic.
+/// The main window: its form, the dispatcher of application commands, and the handlers of its events. What the
+/// commands do is defined in editor/, in one file for each topic.
 #include "data/clsDatFile.h"
 #include "forms/ComboBox.h"
 #include "forms/CommonDialog.h"
@@ -38,6 +38,7 @@ public:
 
     Form &Window() { return myForm; }
 
+    // The form has to be made before the controls on it, so these few private members stand above them.
 private:
     Runtime &myRuntime;
     const std::string mySpecFile;
@@ -45,7 +46,7 @@ private:
     Form &myForm;
 
 public:
-    // The controls of the design, in the order in which they are added to the form.
+    // The controls of the design, in the order in which they are added to myForm.
     CommonDialog &cDlg;
     CommandButton &cmdAdd;
     CommandButton &cmdMoveUp;

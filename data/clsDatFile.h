@@ -29,8 +29,8 @@ public:
 
     explicit clsDatFile(Stopper pStop) : myStop(std::move(pStop)) {}
 
-    /// Also gets the memory for all that Fault may have to say of this file. If there is none, the name stays
-    /// as it was.
+    /// Names the file of the next Load or Save. A fault of it can then be told without further memory. Throws
+    /// std::bad_alloc, and the name stays as it was, if there is none for that now.
     void FileName(std::string fn);
     const std::string &FileName() const { return myFn; }
 
