@@ -143,9 +143,10 @@ void clsListViewRpt::Del() {
 
 void clsListViewRpt::Resize() {
     const int cols = std::min<int>(Cols(), static_cast<int>(myWidths.size()));
+    const double width = static_cast<float>(myLV->Width()); // The control gives it in single precision.
     double w = 0;
     for (int i = 0; i < cols; ++i) {
-        w = myLV->Width() * (myWidths[static_cast<std::size_t>(i)] / 100.0);
+        w = width * (myWidths[static_cast<std::size_t>(i)] / 100.0);
         myLV->ColumnHeaders.Width(i + 1, static_cast<float>(w));
     }
     if (cols > 0) {
