@@ -31,7 +31,7 @@ bool clsDatFile::Exists() const {
 }
 
 std::string clsDatFile::FileType() const {
-    return myFmt == fmtCsv || myFmt == fmtCsvWithHeaders ? "csv" : "dat";
+    return HasFormat() && myFmt != fmtDat ? "csv" : "dat";
 }
 
 void clsDatFile::Rows(std::int16_t n) {
@@ -86,9 +86,11 @@ void clsDatFile::MoveRowUp(std::int16_t pRow) {
     if (pRow < 1 || pRow >= myRows) {
         return;
     }
-    const auto row = static_cast<std::size_t>(pRow);
-    if (row < myData.size()) {
-        std::swap(myData[row - 1], myData[row]);
+    const auto above = static_cast<std::int16_t>(pRow - 1);
+    for (std::int16_t col = 0; col < myCols; ++col) {
+        const std::string kept = Data(above, col);
+        Data(above, col, Data(pRow, col));
+        Data(pRow, col, kept);
     }
 }
 
@@ -97,22 +99,20 @@ void clsDatFile::Clear() {
     myStoredCols = myCols;
 }
 
+bool clsDatFile::HasFormat() const {
+    return myFmt == fmtDat || myFmt == fmtCsv || myFmt == fmtCsvWithHeaders;
+}
+
 void clsDatFile::Load() {
+    if (!HasFormat()) {
+        return;
+    }
     myFault.clear();
     myCause.clear();
     myWasRead = true;
     const bool isDone = HasMemoryFor([this] {
         const Headroom headroom;
-        switch (myFmt) {
-        case fmtDat:
-            return LoadDat();
-        case fmtCsv:
-            return LoadCsv(/*pHasHeaders=*/false);
-        case fmtCsvWithHeaders:
-            return LoadCsv(/*pHasHeaders=*/true);
-        default:
-            return;
-        }
+        return myFmt == fmtDat ? LoadDat() : LoadCsv(/*pHasHeaders=*/myFmt == fmtCsvWithHeaders);
     });
     if (!isDone) {
         GiveUpLoading();
@@ -124,20 +124,13 @@ void clsDatFile::GiveUpLoading() {
 }
 
 void clsDatFile::Save() {
+    if (!HasFormat()) {
+        return;
+    }
     myFault.clear();
     myCause.clear();
-    const bool isDone = HasMemoryFor([this] {
-        switch (myFmt) {
-        case fmtDat:
-            return SaveDat();
-        case fmtCsv:
-            return SaveCsv(/*pHasHeaders=*/false);
-        case fmtCsvWithHeaders:
-            return SaveCsv(/*pHasHeaders=*/true);
-        default:
-            return;
-        }
-    });
+    const bool isDone = HasMemoryFor(
+        [this] { return myFmt == fmtDat ? SaveDat() : SaveCsv(/*pHasHeaders=*/myFmt == fmtCsvWithHeaders); });
     if (!isDone) {
         // The writers get all their memory before they touch the file.
         KeepFault("can't be saved: ", {notEnoughMemory}, {". The records are still in the list."});

@@ -65,7 +65,8 @@ public:
     /// Column x from row 0 to the last. All its texts are empty if there is no such column.
     std::vector<std::string> Col(std::int16_t x) const;
 
-    /// Swaps row pRow, from 1 to Rows() - 1, with the one above. Ignores any other number.
+    /// Swaps the cells of row pRow, from 1 to Rows() - 1, with those of the row above, in the columns from 0
+    /// to Cols() - 1. Ignores any other number.
     void MoveRowUp(std::int16_t pRow);
 
     /// Makes fresh storage for Rows() by Cols() empty cells.
@@ -114,6 +115,7 @@ private:
     void PrintRows(TextOutput &pFile) const;
     void Finish(TextOutput &pFile);
 
+    bool HasFormat() const;
     bool IsStored(int pRow, int pCol) const;
 
     Stopper myStop;
