@@ -1,7 +1,9 @@
 #include "app/VersionRecord.h"
 
 #include "forms/Runtime.h"
+#include "text/Text.h"
 
+#include <algorithm>
 #include <charconv>
 
 namespace {
@@ -24,12 +26,14 @@ std::string ProgramFolder(const std::string &pProgramFile) {
 
 AppRecord MakeAppRecord(const std::string &pProgramFile) {
     const std::string name = pProgramFile.substr(NameIn(pProgramFile));
-    const std::size_t dot = name.find_last_of('.');
-    const bool hasExtension = dot != std::string::npos && dot > 0;
+    // Any other full stop belongs to the name, as in "Norvo-1.2".
+    constexpr std::string_view extension = ".exe";
+    const std::size_t stem = name.size() - std::min(name.size(), extension.size());
+    const bool hasExtension = stem > 0 && EqualIgnoringCase(std::string_view(name).substr(stem), extension);
 
     AppRecord app;
     app.Path = ProgramFolder(pProgramFile);
-    app.EXEName = hasExtension ? name.substr(0, dot) : name;
+    app.EXEName = hasExtension ? name.substr(0, stem) : name;
     app.ProductName = versionRecord::productName;
     app.FileDescription = versionRecord::fileDescription;
     app.Comments = versionRecord::comments;

@@ -13,7 +13,7 @@
 /// The program's file and its version record.
 struct AppRecord {
     std::string Path;    ///< folder of the program's file, without a closing separator
-    std::string EXEName; ///< name of the program's file, without its extension
+    std::string EXEName; ///< name of the program's file, without ".exe"
     std::string ProductName;
     std::string FileDescription;
     std::string Comments;
