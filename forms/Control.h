@@ -2,6 +2,7 @@
 /// The common part of all controls of a form: name, tag, place, and a count of changes. The count tells a
 /// desktop whether it has to show a control again.
 #include <string>
+#include <utility>
 
 class Form;
 
@@ -29,6 +30,13 @@ public:
     /// Makes the number go up without a change, so that a desktop shows the control anew.
     void Touch() { ++myRevision; }
 
+protected:
+    /// Sets a property that can be seen.
+    template <typename Value> void Change(Value &pProperty, Value pValue) {
+        pProperty = std::move(pValue);
+        Touch();
+    }
+
 private:
     Form &myParent;
     std::string myName;
@@ -42,20 +50,25 @@ public:
     using Control::Control;
 
     double Left() const { return myLeft; }
-    void Left(double pTwips);
+    void Left(double pTwips) { Change(myLeft, pTwips); }
     double Top() const { return myTop; }
-    void Top(double pTwips);
+    void Top(double pTwips) { Change(myTop, pTwips); }
     double Width() const { return myWidth; }
-    void Width(double pTwips);
+    void Width(double pTwips) { Change(myWidth, pTwips); }
     double Height() const { return myHeight; }
-    virtual void Height(double pTwips);
-    void Move(double pLeft, double pTop, double pWidth, double pHeight);
+    virtual void Height(double pTwips) { Change(myHeight, pTwips); }
+    void Move(double pLeft, double pTop, double pWidth, double pHeight) {
+        Left(pLeft);
+        Top(pTop);
+        Width(pWidth);
+        Height(pHeight);
+    }
 
     bool Visible() const { return myVisible; }
-    void Visible(bool pVisible);
+    void Visible(bool pVisible) { Change(myVisible, pVisible); }
 
     bool Enabled() const { return myEnabled; }
-    void Enabled(bool pEnabled);
+    void Enabled(bool pEnabled) { Change(myEnabled, pEnabled); }
 
     /// Place in the tab order, from 0. Controls without one come last, in order of creation.
     int TabIndex() const { return myTabIndex; }
@@ -91,7 +104,7 @@ public:
 
     /// The text in the field. Setting it runs no check.
     const std::string &Text() const { return myText; }
-    virtual void Text(std::string pText);
+    virtual void Text(std::string pText) { Change(myText, std::move(pText)); }
 
 private:
     std::string myText;

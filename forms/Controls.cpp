@@ -3,11 +3,6 @@
 #include "system/Memory.h"
 #include "text/Text.h"
 
-void Label::Caption(std::string pCaption) {
-    myCaption = std::move(pCaption);
-    Touch();
-}
-
 void Label::LooksLikeLink(Colour pColour) {
     myIsLink = true;
     myForeColor = pColour;
@@ -19,20 +14,10 @@ void TextBox::UserEdits(const std::string &pText) {
     Text(WithoutNewLineBreaks(Text(), pText));
 }
 
-void CommandButton::Caption(std::string pCaption) {
-    myCaption = std::move(pCaption);
-    Touch();
-}
-
 void CommandButton::Press() const {
     if (Enabled()) {
         Click.Raise();
     }
-}
-
-void MenuItem::Enabled(bool pEnabled) {
-    myEnabled = pEnabled;
-    Touch();
 }
 
 void MenuItem::Choose() const {

@@ -18,7 +18,7 @@ public:
     const char *TypeName() const override { return "Label"; }
 
     const std::string &Caption() const { return myCaption; }
-    void Caption(std::string pCaption);
+    void Caption(std::string pCaption) { Change(myCaption, std::move(pCaption)); }
 
     /// Makes the label a link: the text in pColour, the pointer a hand. Only a link takes clicks.
     void LooksLikeLink(Colour pColour);
@@ -51,7 +51,7 @@ public:
 
     /// "&" marks the letter of the access key.
     const std::string &Caption() const { return myCaption; }
-    void Caption(std::string pCaption);
+    void Caption(std::string pCaption) { Change(myCaption, std::move(pCaption)); }
 
     /// A 16 by 16 picture shown in place of a caption.
     Picture Shows() const { return myPicture; }
@@ -95,7 +95,7 @@ public:
     void Shortcut(std::string pKeys) { myShortcut = std::move(pKeys); }
 
     bool Enabled() const { return myEnabled; }
-    void Enabled(bool pEnabled);
+    void Enabled(bool pEnabled) { Change(myEnabled, pEnabled); }
 
     /// The user chooses the entry, by mouse or key. A disabled one can't be chosen.
     void Choose() const;
