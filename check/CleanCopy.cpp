@@ -22,8 +22,8 @@ bool HasLineBreak(const std::string &pCell) {
 }
 
 bool IsSame(const TextRow &pOne, const TextRow &pOther) {
-    const std::span<const TextRow::Place> ends = pOne.Ends();
-    const std::span<const TextRow::Place> others = pOther.Ends();
+    const std::span<const TextRow::Offset> ends = pOne.Ends();
+    const std::span<const TextRow::Offset> others = pOther.Ends();
     return std::equal(ends.begin(), ends.end(), others.begin(), others.end()) && pOne.Run() == pOther.Run();
 }
 

@@ -166,7 +166,7 @@ void clsDatFile::LeaveUnread(std::string_view pBefore, Pieces pCause, std::strin
     KeepFault(pBefore, pCause, {pAfter});
 }
 
-bool clsDatFile::TakeFaultOf(const TextInput &pFile) {
+bool clsDatFile::KeepFaultOf(const TextInput &pFile) {
     if (pFile.Fault().empty()) {
         return false;
     }

@@ -101,10 +101,10 @@ private:
 
     [[noreturn]] void Stop(const std::string &pText) const;
     void StopWithoutFileName() const;
-    bool TakeFaultOf(const TextInput &pFile);
-    void TakeSizeFrom(TextInput &pFile);
-    void TakeAnnouncedRowsFrom(TextInput &pFile);
-    void TakeRowsUpToARaggedOne(TextInput &pFile);
+    bool KeepFaultOf(const TextInput &pFile);
+    void ReadSizeFrom(TextInput &pFile);
+    void ReadAnnouncedRowsFrom(TextInput &pFile);
+    void ReadRowsUpToARaggedOne(TextInput &pFile);
     void EmptyTable(int pCols);
     using Pieces = std::initializer_list<std::string_view>;
     void LeaveUnread(std::string_view pBefore, Pieces pCause, std::string_view pAfter = "");

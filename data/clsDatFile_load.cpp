@@ -23,7 +23,7 @@ double SizeItem(std::string_view pItem) {
 
 } // namespace
 
-void clsDatFile::TakeSizeFrom(TextInput &pFile) {
+void clsDatFile::ReadSizeFrom(TextInput &pFile) {
     const std::optional<std::string_view> rowsItem = pFile.InputItem();
     const std::optional<std::string_view> colsItem = pFile.InputItem();
     const std::optional<std::int16_t> fittingCols = colsItem ? Integer16(SizeItem(*colsItem)) : std::nullopt;
@@ -56,13 +56,13 @@ void clsDatFile::TakeSizeFrom(TextInput &pFile) {
 void clsDatFile::LoadDat() {
     StopWithoutFileName();
     TextInput file(myFn);
-    TakeSizeFrom(file);
+    ReadSizeFrom(file);
     file.LineInput(); // The first line may hold more than the two numbers.
-    TakeAnnouncedRowsFrom(file);
-    TakeFaultOf(file);
+    ReadAnnouncedRowsFrom(file);
+    KeepFaultOf(file);
 }
 
-void clsDatFile::TakeAnnouncedRowsFrom(TextInput &pFile) {
+void clsDatFile::ReadAnnouncedRowsFrom(TextInput &pFile) {
     TextRowRoom room;
     for (std::int16_t row = 0; row < myRows; ++row) {
         if (pFile.AtEnd()) {
@@ -80,7 +80,7 @@ void clsDatFile::TakeAnnouncedRowsFrom(TextInput &pFile) {
     }
 }
 
-void clsDatFile::TakeRowsUpToARaggedOne(TextInput &pFile) {
+void clsDatFile::ReadRowsUpToARaggedOne(TextInput &pFile) {
     TextRowRoom room;
     const int cols = myData.front().Count();
     while (!pFile.AtEnd() && std::cmp_less_equal(myData.size(), mostRows)) {
@@ -100,11 +100,11 @@ void clsDatFile::LoadCsv(bool pHasHeaders) {
     }
     if (file.AtEnd()) {
         EmptyTable(static_cast<int>(std::min<std::size_t>(myHeaders.size(), modGetWords::mostWords)));
-        TakeFaultOf(file);
+        KeepFaultOf(file);
         return;
     }
     const TextRow first = modGetWords::GetWords(file.LineInput());
-    if (TakeFaultOf(file)) {
+    if (KeepFaultOf(file)) {
         return;
     }
     if (first.Count() > modGetWords::mostWords) {
@@ -115,8 +115,8 @@ void clsDatFile::LoadCsv(bool pHasHeaders) {
     Cols(static_cast<std::int16_t>(first.Count()));
     myStoredCols = myCols;
     myData.assign(1, first);
-    TakeRowsUpToARaggedOne(file);
-    if (TakeFaultOf(file)) {
+    ReadRowsUpToARaggedOne(file);
+    if (KeepFaultOf(file)) {
         return;
     }
     if (std::cmp_greater(myData.size(), mostRows)) {

@@ -44,13 +44,13 @@ std::size_t clsDatFile::MostLineBytes(const TextRow &pTitles) const {
 
 void clsDatFile::PrintRow(TextOutput &pFile, const TextRow &pCells) const {
     const auto cols = static_cast<std::size_t>(myCols);
-    const std::span<const TextRow::Place> ends = pCells.Ends().first(std::min(cols, pCells.Ends().size()));
+    const std::span<const TextRow::Offset> ends = pCells.Ends().first(std::min(cols, pCells.Ends().size()));
     const std::string_view run = pCells.Run();
     const PartCopier row(run);
     std::size_t quote = run.find('"'); // Searches across cells: most cells have no quotes.
     std::size_t from = 0;
     char *to = pFile.BeginLine();
-    for (const TextRow::Place end : ends) {
+    for (const TextRow::Offset end : ends) {
         const bool hasQuotes = quote < end;
         to = Quote({run.data() + from, end - from}, hasQuotes, row, to);
         quote = hasQuotes ? run.find('"', end) : quote;

@@ -16,7 +16,7 @@ bool EndsWord(char pCharacter) {
 /// Takes the word that begins at the next character. If that is an LF, it belongs to the word; if it is a
 /// comma, the word is empty.
 void TakePlainWord(Cursor &pLine, TextRowBuilder &pWords) {
-    const std::size_t from = pLine.Place();
+    const std::size_t from = pLine.Position();
     pLine.Take('\n');
     pLine.TakeWhile([](char pCharacter) { return !EndsWord(pCharacter); });
     pWords.AddPart(pLine.PassedSince(from));
@@ -27,7 +27,7 @@ void TakePlainWord(Cursor &pLine, TextRowBuilder &pWords) {
 bool TakeQuotedWord(Cursor &pLine, TextRowBuilder &pWords) {
     pLine.TakeBlanks(); // No word begins with a blank.
     for (;;) {
-        const std::size_t from = pLine.Place();
+        const std::size_t from = pLine.Position();
         const std::string_view part = pLine.TakeUntil('"');
         if (pLine.AtEnd()) {
             return false;

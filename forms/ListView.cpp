@@ -12,8 +12,8 @@ void ListItem::Texts(TextRow pTexts) {
     myOwner.RowsChanged();
 }
 
-void ListItem::SetText(int pPlace, std::string_view pText) {
-    myTexts.Set(pPlace, pText);
+void ListItem::SetText(int pNumber, std::string_view pText) {
+    myTexts.Set(pNumber, pText);
     myOwner.RowsChanged();
 }
 
@@ -92,9 +92,9 @@ void ListView::EnsureVisible(int pIndex) {
 int ListView::FindItem(std::string_view pStart, int pFrom) const {
     const int count = ListItems.Count();
     for (int step = 0; step < count; ++step) {
-        const int place = (pFrom - 1 + step) % count + 1;
-        if (BeginsWithIgnoringCase(ListItems(place).Text(), pStart)) {
-            return place;
+        const int index = (pFrom - 1 + step) % count + 1;
+        if (BeginsWithIgnoringCase(ListItems(index).Text(), pStart)) {
+            return index;
         }
     }
     return 0;
@@ -123,10 +123,10 @@ void ListView::ItemAdded() {
 }
 
 void ListView::ItemRemoved(int pIndex) {
-    // The item after the removed one moves into its place, so only places further down change. If the removed
-    // item was the last one, the place becomes that of the new last item.
-    const auto follow = [&](int pPlace) {
-        return std::min(pPlace - (pIndex < pPlace ? 1 : 0), ListItems.Count());
+    // The item after the removed one gets its index, so only indexes further down change. If the removed item
+    // was the last one, the index becomes that of the new last item.
+    const auto follow = [&](int pOther) {
+        return std::min(pOther - (pIndex < pOther ? 1 : 0), ListItems.Count());
     };
     mySelected = follow(mySelected);
     myCurrent = follow(myCurrent);

@@ -38,7 +38,7 @@ public:
     void Texts(TextRow pTexts);
 
 private:
-    void SetText(int pPlace, std::string_view pText);
+    void SetText(int pNumber, std::string_view pText);
 
     ListView &myOwner;
     TextRow myTexts;

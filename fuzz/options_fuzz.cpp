@@ -47,10 +47,10 @@ void RequirePlace(const SizedControl &pControl, const std::string &pOptions, dou
     }
 }
 
-SizedControl &AddLabel(Form &pForm, const std::string &pName, const std::string &pTag) {
+SizedControl &AddLabel(Form &pForm, const char *pName, std::string pTag) {
     auto &label = pForm.Add<Label>(pName);
     label.Move(startPlace[0], startPlace[1], startPlace[2], startPlace[3]);
-    label.Tag(pTag);
+    label.Tag(std::move(pTag));
     return label;
 }
 

@@ -90,7 +90,7 @@ std::optional<std::string_view> TextInput::InputItem() {
         line.TakeWhile([](char pCharacter) { return pCharacter != ',' && pCharacter != ' '; });
     line.TakeBlanks();
     line.Take(',');
-    myAt += line.Place();
+    myAt += line.Position();
     return isThere ? std::optional(item) : std::nullopt;
 }
 

@@ -5,20 +5,20 @@
 #include <new>
 #include <utility>
 
-/// Runs pAct. Returns false if memory ran out in the middle of it.
-template <typename Act> bool HasMemoryFor(Act &&pAct) {
+/// Runs pWork. Returns false if memory ran out in the middle of it.
+template <typename Work> bool HasMemoryFor(Work &&pWork) {
     try {
-        std::forward<Act>(pAct)();
+        std::forward<Work>(pWork)();
         return true;
     } catch (const std::bad_alloc &) {
         return false;
     }
 }
 
-/// Runs pAct. If memory runs out in the middle of it, runs pUndo, which needs none, and leaves the rest to
+/// Runs pWork. If memory runs out in the middle of it, runs pUndo, which needs none, and leaves the rest to
 /// the caller.
-template <typename Act, typename Undo> void RunOrUndo(Act &&pAct, Undo &&pUndo) {
-    if (!HasMemoryFor(std::forward<Act>(pAct))) {
+template <typename Work, typename Undo> void RunOrUndo(Work &&pWork, Undo &&pUndo) {
+    if (!HasMemoryFor(std::forward<Work>(pWork))) {
         std::forward<Undo>(pUndo)();
         throw std::bad_alloc();
     }

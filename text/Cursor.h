@@ -17,9 +17,9 @@ public:
     void Pass() { ++myAt; }
 
     /// How many characters have been passed.
-    std::size_t Place() const { return static_cast<std::size_t>(myAt - myBegin); }
-    /// The characters passed since the cursor was at pPlace.
-    std::string_view PassedSince(std::size_t pPlace) const { return {myBegin + pPlace, myAt}; }
+    std::size_t Position() const { return static_cast<std::size_t>(myAt - myBegin); }
+    /// The characters passed since the cursor was at pPosition.
+    std::string_view PassedSince(std::size_t pPosition) const { return {myBegin + pPosition, myAt}; }
 
     /// Passes the next character if it is pWanted, and returns whether it was.
     bool Take(char pWanted) {

@@ -5,16 +5,16 @@
 #include <limits>
 #include <new>
 
-TextRow::TextRow(std::string_view pRun, std::span<const Place> pEnds)
+TextRow::TextRow(std::string_view pRun, std::span<const Offset> pEnds)
     : myCount(static_cast<int>(pEnds.size())) {
     if (pEnds.empty()) {
         return;
     }
-    if (pRun.size() > std::numeric_limits<Place>::max()) {
+    if (pRun.size() > std::numeric_limits<Offset>::max()) {
         throw std::bad_alloc();
     }
-    const std::size_t places = (pRun.size() + sizeof(Place) - 1) / sizeof(Place);
-    auto block = std::make_shared_for_overwrite<Place[]>(pEnds.size() + places);
+    const std::size_t words = (pRun.size() + sizeof(Offset) - 1) / sizeof(Offset);
+    auto block = std::make_shared_for_overwrite<Offset[]>(pEnds.size() + words);
     std::copy(pEnds.begin(), pEnds.end(), block.get());
     std::memcpy(block.get() + pEnds.size(), pRun.data(), pRun.size());
     myBlock = std::move(block);
@@ -33,23 +33,23 @@ TextRow::TextRow(std::span<const std::string> pTexts) {
     *this = builder.Row();
 }
 
-std::string_view TextRow::operator()(int pPlace) const {
-    if (pPlace < 1 || pPlace > myCount) {
+std::string_view TextRow::operator()(int pNumber) const {
+    if (pNumber < 1 || pNumber > myCount) {
         return {};
     }
-    const Place from = pPlace == 1 ? 0 : myBlock[pPlace - 2];
-    return {Begin() + from, myBlock[pPlace - 1] - from};
+    const Offset from = pNumber == 1 ? 0 : myBlock[pNumber - 2];
+    return {Begin() + from, myBlock[pNumber - 1] - from};
 }
 
-void TextRow::Set(int pPlace, std::string_view pText) {
-    if (pPlace < 1) {
+void TextRow::Set(int pNumber, std::string_view pText) {
+    if (pNumber < 1) {
         return;
     }
-    const int count = std::max(pPlace, myCount);
+    const int count = std::max(pNumber, myCount);
     TextRowRoom room;
     TextRowBuilder builder(room, static_cast<std::size_t>(count), Run().size() + pText.size(), Run());
-    for (int place = 1; place <= count; ++place) {
-        builder.Append(place == pPlace ? pText : (*this)(place));
+    for (int number = 1; number <= count; ++number) {
+        builder.Append(number == pNumber ? pText : (*this)(number));
     }
     *this = builder.Row();
 }

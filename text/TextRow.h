@@ -14,41 +14,41 @@
 
 class TextRow {
 public:
-    /// A place in the row's block. A table has one for each cell, and a pointer would take twice the room.
-    using Place = std::uint32_t;
+    /// An offset in the row's texts. A table has one for each cell, and a pointer would take twice the room.
+    using Offset = std::uint32_t;
 
     /// A row without texts.
     TextRow() = default;
     /// A row of the texts that stand one after another in pRun. pEnds says where each of them ends; its
-    /// places rise to the length of pRun. A run of 4 GB or more counts as a lack of memory.
-    TextRow(std::string_view pRun, std::span<const Place> pEnds);
+    /// offsets rise to the length of pRun. A run of 4 GB or more counts as a lack of memory.
+    TextRow(std::string_view pRun, std::span<const Offset> pEnds);
     explicit TextRow(std::span<const std::string> pTexts);
 
     int Count() const { return myCount; }
 
-    /// Text pPlace, from 1; empty where there is none. It stays valid as long as this row or a copy of it
+    /// Text pNumber, from 1; empty where there is none. It stays valid as long as this row or a copy of it
     /// exists.
-    std::string_view operator()(int pPlace) const;
+    std::string_view operator()(int pNumber) const;
 
     /// All texts, one after another.
     std::string_view Run() const { return {Begin(), myCount == 0 ? 0 : myBlock[myCount - 1]}; }
     /// Where in Run each of them ends.
-    std::span<const Place> Ends() const { return {myBlock.get(), static_cast<std::size_t>(myCount)}; }
+    std::span<const Offset> Ends() const { return {myBlock.get(), static_cast<std::size_t>(myCount)}; }
 
-    /// Sets text pPlace, from 1, and adds empty texts before it where there are too few. Makes a new block.
-    void Set(int pPlace, std::string_view pText);
+    /// Sets text pNumber, from 1, and adds empty texts before it where there are too few. Makes a new block.
+    void Set(int pNumber, std::string_view pText);
 
 private:
     const char *Begin() const { return reinterpret_cast<const char *>(myBlock.get() + myCount); }
 
-    std::shared_ptr<const Place[]> myBlock; ///< null while there are no texts
+    std::shared_ptr<const Offset[]> myBlock; ///< null while there are no texts
     int myCount = 0;
 };
 
 /// Memory in which rows are built, one after another.
 struct TextRowRoom {
     std::string run;
-    std::vector<TextRow::Place> ends;
+    std::vector<TextRow::Offset> ends;
 };
 
 /// Builds one row, text by text.
@@ -80,9 +80,9 @@ private:
     char *myRun;
     char *myText; ///< start of the text not yet appended
     char *myTextEnd;
-    TextRow::Place *myEnds;
-    TextRow::Place *myNextEnd;
-    TextRow::Place *myEndsEnd; ///< end of the room for the ends
+    TextRow::Offset *myEnds;
+    TextRow::Offset *myNextEnd;
+    TextRow::Offset *myEndsEnd; ///< end of the room for the ends
 };
 
 inline TextRowBuilder::TextRowBuilder(TextRowRoom &pRoom, std::size_t pMostTexts, std::size_t pMostBytes,
@@ -103,7 +103,7 @@ inline void TextRowBuilder::DropBlanksAtEnd() {
 
 inline void TextRowBuilder::EndText() {
     if (myNextEnd != myEndsEnd) {
-        *myNextEnd++ = static_cast<TextRow::Place>(myTextEnd - myRun);
+        *myNextEnd++ = static_cast<TextRow::Offset>(myTextEnd - myRun);
         myText = myTextEnd;
     }
 }

@@ -99,16 +99,16 @@ void clsListViewRpt::MoveSelectedTo(int pIndex) {
 }
 
 void clsListViewRpt::MoveUp() {
-    const int place = myLV->SelectedIndex();
-    if (place > 1) {
-        MoveSelectedTo(place - 1);
+    const int index = myLV->SelectedIndex();
+    if (index > 1) {
+        MoveSelectedTo(index - 1);
     }
 }
 
 void clsListViewRpt::MoveDown() {
-    const int place = myLV->SelectedIndex();
-    if (place > 0 && place < myLV->ListItems.Count()) {
-        MoveSelectedTo(place + 1);
+    const int index = myLV->SelectedIndex();
+    if (index > 0 && index < myLV->ListItems.Count()) {
+        MoveSelectedTo(index + 1);
     }
 }
 
