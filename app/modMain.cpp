@@ -57,11 +57,8 @@ void modMain::SettleFiles(const std::vector<std::string> &args) {
         gDatFile = args[0];
         break;
     case 2:
-        gSpecFile = args[0];
+        gSpecFile = NamedOrBeside(args[0], myRuntime.App().Path);
         gDatFile = args[1];
-        if (Dir(gSpecFile).empty()) {
-            gSpecFile = myRuntime.App().Path + "\\" + gSpecFile;
-        }
         break;
     default:
         Usage();

@@ -102,11 +102,6 @@ int CheckData(const Request &pRequest, const SpecCheck *pSpec, std::ostream &pOu
     return findings.Of(Kind::Lost) + findings.Of(Kind::Changed) > 0 ? statusFound : statusGood;
 }
 
-/// The file that pName stands for, looked for where the editor looks.
-std::string SpecFile(const std::string &pName, const std::string &pProgramFolder) {
-    return Dir(pName).empty() ? os::NativePath(pProgramFolder + "\\" + pName) : pName;
-}
-
 } // namespace
 
 int Main(const std::vector<std::string> &pWords, const std::string &pProgramFolder,
@@ -127,7 +122,7 @@ int Main(const std::vector<std::string> &pWords, const std::string &pProgramFold
     std::unique_ptr<SpecCheck> spec;
     int status = statusGood;
     if (request->specFile) {
-        const std::string file = SpecFile(*request->specFile, pProgramFolder);
+        const std::string file = os::NativePath(NamedOrBeside(*request->specFile, pProgramFolder));
         if (Dir(file).empty()) {
             pErrors << "Specification file: " << file << " doesn't exist.\n";
             return statusImpossible;

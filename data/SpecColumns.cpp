@@ -66,7 +66,7 @@ std::string ReadRow(const clsDatFile &pSpec, std::int16_t pRow, SpecColumn &pCol
 } // namespace
 
 std::string SpecColumn::ListPath(const std::string &pProgramFolder) const {
-    return Dir(listFile).empty() ? pProgramFolder + "\\" + listFile : listFile;
+    return NamedOrBeside(listFile, pProgramFolder);
 }
 
 SpecColumns::SpecColumns(const clsDatFile &pSpec) : myFault(TableFault(pSpec)) {

@@ -16,7 +16,7 @@ struct SpecColumn {
     std::string listFile;         ///< of a combo box, as the specification names it
     std::int16_t mode = 0;        ///< of a combo box, as clsCombo takes it
 
-    /// Where the list file is: as named if Dir finds it there, else below pProgramFolder.
+    /// Where the list file is: as named, else beside the program.
     std::string ListPath(const std::string &pProgramFolder) const;
 };
 

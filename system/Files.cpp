@@ -22,6 +22,10 @@ std::string Dir(const std::string &pPath) {
     return path.substr(path.find_last_of('/') + 1);
 }
 
+std::string NamedOrBeside(const std::string &pName, const std::string &pFolder) {
+    return Dir(pName).empty() ? pFolder + "\\" + pName : pName;
+}
+
 bool TextInput::AtEnd() {
     return Unread().empty() && !ReadMore();
 }

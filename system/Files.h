@@ -12,6 +12,9 @@
 /// characters; a relative path starts at the current folder.
 std::string Dir(const std::string &pPath);
 
+/// Where the file pName is: as named if Dir finds it there, else in pFolder, whether it is there or not.
+std::string NamedOrBeside(const std::string &pName, const std::string &pFolder);
+
 /// A file open for input. It reads block by block, so only the current line has to fit into memory.
 class TextInput {
 public:
