@@ -2,11 +2,11 @@
 
 #include "app/frmMain.h"
 #include "app/modArgcArgv.h"
+#include "data/Switches.h"
 #include "forms/Runtime.h"
 #include "help/frmAbout.h"
 #include "system/Files.h"
 #include "text/Numbers.h"
-#include "text/Text.h"
 
 namespace {
 
@@ -32,15 +32,13 @@ std::vector<std::string> modMain::ReadWords() {
     // One word too many settles the matter.
     for (std::size_t i = 0; i < words.size() && args.size() <= mostNames; ++i) {
         const std::string &word = words[i];
-        const std::string lower = LCase(word);
-        if (lower == "-t" || lower == "/t") {
+        const std::string name = SwitchName(word);
+        if (name == "t") {
             gTitle = ++i < words.size() ? words[i] : "";
-        } else if (lower == "-v" || lower == "/v") {
+        } else if (name == "v") {
             ++i; // This switch takes a word, which has no effect.
-        } else if (lower == "-csv" || lower == "/csv") {
-            fmtArg = FormatWhole(clsDatFile::fmtCsv);
-        } else if (lower == "-csvh" || lower == "/csvh") {
-            fmtArg = FormatWhole(clsDatFile::fmtCsvWithHeaders);
+        } else if (const std::optional<std::int16_t> fmt = SwitchFormat(name)) {
+            fmtArg = FormatWhole(*fmt);
         } else {
             args.push_back(word);
         }

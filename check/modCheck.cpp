@@ -2,8 +2,8 @@
 
 #include "check/DataCheck.h"
 #include "check/SpecCheck.h"
+#include "data/Switches.h"
 #include "system/Files.h"
-#include "text/Text.h"
 
 #include <algorithm>
 #include <memory>
@@ -24,29 +24,18 @@ struct Request {
     std::optional<std::string> newFile;
 };
 
-/// pWord in lower case, with "/" for "-" in front, as switches are compared.
-std::string Switch(const std::string &pWord) {
-    std::string text = LCase(pWord);
-    if (text.starts_with('-')) {
-        text[0] = '/';
-    }
-    return text;
-}
-
 /// What pWords ask for; nothing if they are wrong.
 std::optional<Request> Read(const std::vector<std::string> &pWords) {
     Request request;
     std::vector<std::string> names;
     bool isSpec = false;
     for (std::size_t i = 0; i < pWords.size(); ++i) {
-        const std::string word = Switch(pWords[i]);
-        if (word == "/csv") {
-            request.fmt = clsDatFile::fmtCsv;
-        } else if (word == "/csvh") {
-            request.fmt = clsDatFile::fmtCsvWithHeaders;
-        } else if (word == "/spec") {
+        const std::string name = SwitchName(pWords[i]);
+        if (const std::optional<std::int16_t> fmt = SwitchFormat(name)) {
+            request.fmt = *fmt;
+        } else if (name == "spec") {
             isSpec = true;
-        } else if (word != "/to") {
+        } else if (name != "to") {
             names.push_back(pWords[i]);
         } else if (++i < pWords.size()) {
             request.newFile = pWords[i];
