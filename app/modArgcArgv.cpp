@@ -3,7 +3,6 @@
 #include "text/Cursor.h"
 
 #include <optional>
-#include <utility>
 
 namespace modArgcArgv {
 
@@ -25,23 +24,25 @@ std::optional<std::string_view> TakeWord(Cursor &pCommand) {
 
 } // namespace
 
-std::vector<std::string> Words(std::string_view pCommand) {
-    Cursor command(pCommand);
-    std::vector<std::string> words;
-    while (const std::optional<std::string_view> word = TakeWord(command)) {
-        std::erase(words.emplace_back(*word), '"');
-    }
-    return words;
-}
-
 int argc(std::string_view pCommand) {
-    return static_cast<int>(Words(pCommand).size());
+    Cursor command(pCommand);
+    int count = 0;
+    while (TakeWord(command)) {
+        ++count;
+    }
+    return count;
 }
 
 std::string argv(std::string_view pCommand, int pIndex) {
-    const std::vector<std::string> words = Words(pCommand);
-    const bool isThere = pIndex >= 1 && std::cmp_less_equal(pIndex, words.size());
-    return isThere ? words[static_cast<std::size_t>(pIndex - 1)] : std::string();
+    Cursor command(pCommand);
+    for (int index = 1; const std::optional<std::string_view> word = TakeWord(command); ++index) {
+        if (index == pIndex) {
+            std::string text(*word);
+            std::erase(text, '"');
+            return text;
+        }
+    }
+    return {};
 }
 
 } // namespace modArgcArgv

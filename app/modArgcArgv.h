@@ -4,12 +4,8 @@
 /// escape.
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace modArgcArgv {
-
-/// All words of pCommand, in one pass.
-std::vector<std::string> Words(std::string_view pCommand);
 
 /// The number of words in pCommand.
 int argc(std::string_view pCommand);

@@ -27,14 +27,15 @@ void modMain::Main() {
 }
 
 std::vector<std::string> modMain::ReadWords() {
-    const std::vector<std::string> words = modArgcArgv::Words(myRuntime.Command());
+    const std::string &command = myRuntime.Command();
+    const int count = modArgcArgv::argc(command);
     std::vector<std::string> args;
-    // One word too many settles the matter.
-    for (std::size_t i = 0; i < words.size() && args.size() <= mostNames; ++i) {
-        const std::string &word = words[i];
+    // One name too many settles the matter.
+    for (int i = 1; i <= count && args.size() <= mostNames; ++i) {
+        const std::string word = modArgcArgv::argv(command, i);
         const std::string name = SwitchName(word);
         if (name == "t") {
-            gTitle = ++i < words.size() ? words[i] : "";
+            gTitle = modArgcArgv::argv(command, ++i);
         } else if (name == "v") {
             ++i; // This switch takes a word, which has no effect.
         } else if (const std::optional<std::int16_t> fmt = SwitchFormat(name)) {
