@@ -33,9 +33,9 @@ using Act = bool (*)(Field &, const std::string &pUnlisted);
 /// One key: of all entries only the last completes the text so far.
 const Act complete = [](Field &pField, const std::string & /*pUnlisted*/) {
     pField.box.Text("");
-    pField.box.UserPressesKey('A');
+    pField.box.UserPressesKey(FieldKey::TypesText);
     pField.box.UserEdits(pField.lastEntry, static_cast<int>(pField.lastEntry.size()));
-    pField.box.UserReleasesKey('A', 0);
+    pField.box.UserReleasesKey(FieldKey::TypesText);
     return pField.box.ListIndex() == pField.box.ListCount() - 1;
 };
 

@@ -1,6 +1,5 @@
 #include "desktop/FieldViews.h"
 
-#include "desktop/KeyMap.h"
 #include "desktop/TextCodec.h"
 #include "text/Text.h"
 
@@ -10,6 +9,7 @@
 #include <QWheelEvent>
 
 #include <algorithm>
+#include <array>
 
 namespace {
 
@@ -17,6 +17,22 @@ namespace {
 bool IsAccessKey(const QKeyEvent &pEvent) {
     const auto held = pEvent.modifiers() & (Qt::AltModifier | Qt::ControlModifier | Qt::GroupSwitchModifier);
     return held == Qt::AltModifier && !pEvent.text().isEmpty() && pEvent.text().at(0).isPrint();
+}
+
+/// A key that is none of these types text on some keyboard. The highest function keys and the locks count as
+/// such too: there is nothing to complete when they are released.
+FieldKey KindOf(const QKeyEvent &pEvent) {
+    constexpr std::array typeNothing{
+        Qt::Key_Tab,    Qt::Key_Backtab, Qt::Key_Clear,    Qt::Key_Return, Qt::Key_Enter,    Qt::Key_Shift,
+        Qt::Key_Alt,    Qt::Key_AltGr,   Qt::Key_Control,  Qt::Key_Pause,  Qt::Key_CapsLock, Qt::Key_Escape,
+        Qt::Key_PageUp, Qt::Key_Left,    Qt::Key_PageDown, Qt::Key_Right,  Qt::Key_Home,     Qt::Key_End,
+        Qt::Key_Up,     Qt::Key_Down,    Qt::Key_Print,    Qt::Key_Insert, Qt::Key_Help};
+    const int key = pEvent.key();
+    if (key == Qt::Key_Backspace || key == Qt::Key_Delete) {
+        return FieldKey::Erases;
+    }
+    const bool isNamed = std::find(typeNothing.begin(), typeNothing.end(), key) != typeNothing.end();
+    return isNamed || (key >= Qt::Key_F1 && key <= Qt::Key_F16) ? FieldKey::Neither : FieldKey::TypesText;
 }
 
 /// Makes pBox editable, and returns the line edit in it.
@@ -224,7 +240,7 @@ bool ComboBoxView::ActOnEntries(const QKeyEvent &pEvent) {
 }
 
 void ComboBoxView::keyPressEvent(QKeyEvent *pEvent) {
-    myBox.UserPressesKey(VirtualKey(*pEvent));
+    myBox.UserPressesKey(KindOf(*pEvent));
     if (pEvent->key() == Qt::Key_Return || pEvent->key() == Qt::Key_Enter || IsAccessKey(*pEvent)) {
         pEvent->ignore(); // The form may have a default button or an access key for it.
     } else if (!ActOnEntries(*pEvent)) {
@@ -247,7 +263,7 @@ bool ComboBoxView::eventFilter(QObject *pWatched, QEvent *pEvent) {
 void ComboBoxView::keyReleaseEvent(QKeyEvent *pEvent) {
     QComboBox::keyReleaseEvent(pEvent);
     if (!pEvent->isAutoRepeat()) {
-        myActs.Handle([&] { myBox.UserReleasesKey(VirtualKey(*pEvent), ShiftState(*pEvent)); });
+        myActs.Handle([&] { myBox.UserReleasesKey(KindOf(*pEvent)); });
     }
 }
 

@@ -1,6 +1,5 @@
 #include "forms/ComboBox.h"
 
-#include "forms/KeyCodes.h"
 #include "system/Memory.h"
 #include "text/Text.h"
 
@@ -79,8 +78,8 @@ void ComboBox::UserEdits(const std::string &pText, int pSelStart) {
     myIsRefusing = wasRefusing && !MayLoseFocus();
     // A CR LF before the caret has become one character, so the caret counts from the end.
     SelStart(pSelStart + Utf16Length(Text()) - Utf16Length(pText));
-    myWasTypedIn = myLastKeyDown != keyCode::back && myLastKeyDown != keyCode::del;
-    myLastKeyDown = 0; // Text from an input method comes without a key of its own.
+    myWasTypedIn = myLastKeyDown != FieldKey::Erases;
+    myLastKeyDown = FieldKey::Neither; // Text from an input method comes without a key of its own.
 }
 
 void ComboBox::UserSelects(int pSelStart, int pSelLength) {
@@ -93,7 +92,7 @@ void ComboBox::UserPicks(int pIndex) {
     SelLength(Utf16Length(Text())); // The next letter typed replaces the text.
 }
 
-bool ComboBox::TakeTyped() {
+bool ComboBox::IsNewlyTypedIn() {
     return std::exchange(myWasTypedIn, false);
 }
 

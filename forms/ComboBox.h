@@ -7,6 +7,10 @@
 #include <string>
 #include <vector>
 
+/// What a key does to the text of a field. A key that does neither moves the caret, for example, or is held
+/// for another one.
+enum class FieldKey { TypesText, Erases, Neither };
+
 class ComboBox : public TextField {
 public:
     static constexpr double fixedHeightTwips = 315;
@@ -48,14 +52,13 @@ public:
 
     /// Returns whether the user has typed text since the last call. Erasing is not typing. A fast typist
     /// presses a key before releasing the one before it, so not every release has new text to complete.
-    bool TakeTyped();
+    bool IsNewlyTypedIn();
 
-    /// The acts of the user. pKeyCode is a code of KeyCodes.h; pShift is 1 for Shift, 2 for Control, 4 for
-    /// Alt.
-    void UserPressesKey(int pKeyCode) { myLastKeyDown = pKeyCode; }
+    /// The acts of the user.
+    void UserPressesKey(FieldKey pKey) { myLastKeyDown = pKey; }
     void UserEdits(const std::string &pText, int pSelStart);
     void UserSelects(int pSelStart, int pSelLength);
-    void UserReleasesKey(int pKeyCode, int pShift) { KeyUp.Raise(pKeyCode, pShift); }
+    void UserReleasesKey(FieldKey pKey) { KeyUp.Raise(pKey); }
     void UserPicks(int pIndex);
 
     /// Asks the client whether the focus may leave the box.
@@ -64,7 +67,7 @@ public:
     /// another.
     bool IsRefusing() const { return myIsRefusing; }
 
-    Event<int, int> KeyUp;  ///< key code, shift
+    Event<FieldKey> KeyUp;
     Event<bool &> Validate; ///< Cancel: true keeps the focus in the box
 
 private:
@@ -72,7 +75,7 @@ private:
     int myListIndex = -1;
     int mySelStart = 0;
     int mySelLength = 0;
-    int myLastKeyDown = 0;
+    FieldKey myLastKeyDown = FieldKey::Neither;
     bool myWasTypedIn = false;
     bool myIsRefusing = false;
 };

@@ -1,24 +1,12 @@
 #include "ui/clsCombo.h"
 
 #include "forms/ComboBox.h"
-#include "forms/KeyCodes.h"
 #include "system/Files.h"
 #include "system/Memory.h"
 #include "text/Text.h"
 
 #include <utility>
 #include <vector>
-
-namespace {
-
-/// Whether releasing the key completes the text. True for the space bar, digits, letters, the numeric keypad
-/// and punctuation; false for keys that erase, move the caret or do anything else.
-bool TypesText(int pKeyCode) {
-    return pKeyCode == keyCode::space || (pKeyCode >= keyCode::digit0 && pKeyCode <= keyCode::keypadDivide) ||
-           pKeyCode >= keyCode::firstAboveAscii;
-}
-
-} // namespace
 
 clsCombo::~clsCombo() {
     if (myCB != nullptr) {
@@ -29,7 +17,7 @@ clsCombo::~clsCombo() {
 
 void clsCombo::cb(ComboBox &pCB) {
     myCB = &pCB;
-    myCB->KeyUp.Connect([this](int KeyCode, int Shift) { myCB_KeyUp(KeyCode, Shift); });
+    myCB->KeyUp.Connect([this](FieldKey Key) { myCB_KeyUp(Key); });
     myCB->Validate.Connect([this](bool &Cancel) { myCB_Validate(Cancel); });
 }
 
@@ -59,10 +47,10 @@ void clsCombo::LoadFromTxtFile(const std::string &pFn) {
     }
 }
 
-void clsCombo::myCB_KeyUp(int KeyCode, int /*Shift*/) {
+void clsCombo::myCB_KeyUp(FieldKey Key) {
     // In fast typing both characters are there when the first key is released. Completing again when the
     // second is released would take the completed part for typed text.
-    if (myMode == 2 && TypesText(KeyCode) && myCB->TakeTyped()) {
+    if (myMode == 2 && Key == FieldKey::TypesText && myCB->IsNewlyTypedIn()) {
         AutoComplete(*myCB);
     }
 }

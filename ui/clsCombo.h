@@ -8,6 +8,7 @@
 #include <string_view>
 
 class ComboBox;
+enum class FieldKey;
 
 class clsCombo {
 public:
@@ -34,7 +35,7 @@ public:
     std::string_view Fault() const { return myFault.Words(); }
 
 private:
-    void myCB_KeyUp(int KeyCode, int Shift);
+    void myCB_KeyUp(FieldKey Key);
     void myCB_Validate(bool &Cancel) const;
     static void AutoComplete(ComboBox &pCombo);
 

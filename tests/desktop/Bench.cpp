@@ -26,6 +26,7 @@ Bench::Bench() {
         fruit.AddItem(entry);
     }
 
+    combo.cb(fruit);
     form.Resize.Connect([this] { layout.RedrawLayout(); });
     cmdAdd.Click.Connect([this] { acts += "Add "; });
     cmdCancel.Click.Connect([this] { acts += "Cancel "; });

@@ -7,6 +7,7 @@
 #include "forms/Controls.h"
 #include "forms/ListView.h"
 #include "forms/Runtime.h"
+#include "ui/clsCombo.h"
 #include "ui/clsLayout.h"
 
 #include <QApplication>
@@ -44,6 +45,7 @@ protected:
     ListView &list = form.Add<ListView>("list");                     ///< Abacus, Apple, Banana
     TextBox &name = form.Add<TextBox>("name");
     ComboBox &fruit = form.Add<ComboBox>("fruit"); ///< the same entries
+    clsCombo combo;                                ///< serves it
     clsLayout layout;
     std::string acts; ///< what the form's events have reported: the names of buttons, the rows picked
 

@@ -1,5 +1,4 @@
 // Keys, and what the fields of the real window do with the texts that they get.
-#include "desktop/KeyMap.h"
 #include "desktop/TextCodec.h"
 #include "tests/desktop/Bench.h"
 
@@ -168,18 +167,39 @@ TEST_F(Fields, areNamedByTheirHeadingWhileTheyHoldAText) {
     EXPECT_TRUE(box->view()->isVisible());
 }
 
-TEST(KeyCodes, followTheKeyboardAndNotTheCharacter) {
-    using Case = std::tuple<int, Qt::KeyboardModifiers, int>;
-    for (const auto &[key, modifiers, code] :
-         {Case{Qt::Key_Backspace, {}, 8}, Case{Qt::Key_Enter, Qt::KeypadModifier, 13},
-          Case{Qt::Key_Space, {}, 32}, Case{Qt::Key_Home, Qt::KeypadModifier, 36}, Case{Qt::Key_7, {}, 55},
-          Case{Qt::Key_7, Qt::KeypadModifier, 103}, Case{Qt::Key_Ampersand, Qt::ShiftModifier, 55},
-          Case{Qt::Key_Z, {}, 90}, Case{Qt::Key_Slash, Qt::KeypadModifier, 111}, Case{Qt::Key_Slash, {}, 191},
-          Case{Qt::Key_F1, {}, 112}, Case{Qt::Key_QuoteDbl, Qt::ShiftModifier, 222},
-          Case{Qt::Key_Eacute, {}, 255}, Case{Qt::Key_unknown, {}, 255}}) {
-        const QKeyEvent event(QEvent::KeyRelease, key, modifiers);
-        EXPECT_EQ(VirtualKey(event), code) << std::hex << "key " << key;
+TEST_F(Fields, completeWhenAKeyThatTypesIsReleased) {
+    combo.Mode(2);
+    box->setFocus();
+    const auto release = [&](int pKey) {
+        fruit.Text("");
+        Sync();
+        box->lineEdit()->setText("b"); // as an input method does
+        QTest::simulateEvent(window->windowHandle(), false, pKey, {}, "", false);
+        return fruit.Text();
+    };
+    for (const int key :
+         {Qt::Key_Space, Qt::Key_7, Qt::Key_Z, Qt::Key_Ampersand, Qt::Key_Slash, Qt::Key_QuoteDbl,
+          Qt::Key_Eacute, Qt::Key_unknown, Qt::Key_F17, Qt::Key_Super_L, Qt::Key_NumLock}) {
+        EXPECT_EQ(release(key), "Banana") << std::hex << key;
     }
+    for (const int key :
+         {Qt::Key_Backspace, Qt::Key_Tab,     Qt::Key_Backtab, Qt::Key_Return,   Qt::Key_Enter,
+          Qt::Key_Shift,     Qt::Key_Control, Qt::Key_Alt,     Qt::Key_AltGr,    Qt::Key_Pause,
+          Qt::Key_CapsLock,  Qt::Key_Escape,  Qt::Key_PageUp,  Qt::Key_PageDown, Qt::Key_End,
+          Qt::Key_Home,      Qt::Key_Left,    Qt::Key_Up,      Qt::Key_Right,    Qt::Key_Down,
+          Qt::Key_Print,     Qt::Key_Insert,  Qt::Key_Delete,  Qt::Key_Help,     Qt::Key_Clear,
+          Qt::Key_F1,        Qt::Key_F16}) {
+        EXPECT_EQ(release(key), "b") << std::hex << key;
+    }
+    box->lineEdit()->clear();
+    for (const int key : {Qt::Key_A, Qt::Key_Delete}) {
+        Key(key);
+    }
+    EXPECT_EQ(fruit.Text(), "A") << "what is erased doesn't come back";
+    for (const int key : {Qt::Key_P, Qt::Key_Backspace}) {
+        Key(key);
+    }
+    EXPECT_EQ(fruit.Text(), "Ap");
 }
 
 } // namespace

@@ -2,7 +2,6 @@
 
 #include "forms/ComboBox.h"
 #include "forms/Controls.h"
-#include "forms/KeyCodes.h"
 
 #include <regex>
 #include <stdexcept>
@@ -32,9 +31,9 @@ std::string NameOf(const CommandButton &pButton) {
 /// release may complete the text.
 void TypeOver(TextField &pField, const std::string &pText) {
     if (auto *const box = dynamic_cast<ComboBox *>(&pField)) {
-        box->UserPressesKey(pText.empty() ? keyCode::del : keyCode::letterA);
+        box->UserPressesKey(pText.empty() ? FieldKey::Erases : FieldKey::TypesText);
         box->UserEdits(pText, static_cast<int>(pText.size()));
-        box->UserReleasesKey(keyCode::letterA, 0);
+        box->UserReleasesKey(FieldKey::TypesText);
     } else {
         dynamic_cast<TextBox &>(pField).UserEdits(pText);
     }
