@@ -1,4 +1,4 @@
-// Systems that need not be told more than Qt tells them.
+// A system without the library of X11.
 #include "desktop/WindowSystem.h"
 
 void StandAlone(const QWidget & /*pWindow*/) {}
@@ -10,19 +10,5 @@ std::optional<QSize> SizeOnScreen(const QWidget & /*pWindow*/) {
 void AskForSize(const QWidget & /*pWindow*/, QSize /*pSize*/) {}
 
 bool IsMouseHeld() {
-    return false;
-}
-
-bool IsContrastHigh() {
-    return false;
-}
-
-void FollowSystemColours() {}
-
-void SoundMessage(bool /*pIsCritical*/) {}
-
-void KeepCopiedText() {}
-
-bool ShowPlainMessage(std::string_view /*pText*/, std::string_view /*pTitle*/) {
     return false;
 }

@@ -115,17 +115,3 @@ bool IsMouseHeld() {
         xcb_query_pointer_reply(connection, xcb_query_pointer(connection, root), nullptr));
     return reply != nullptr && (reply->mask & XCB_BUTTON_MASK_1) != 0;
 }
-
-bool IsContrastHigh() {
-    return false;
-}
-
-void FollowSystemColours() {}
-
-void SoundMessage(bool /*pIsCritical*/) {}
-
-void KeepCopiedText() {}
-
-bool ShowPlainMessage(std::string_view /*pText*/, std::string_view /*pTitle*/) {
-    return false;
-}
