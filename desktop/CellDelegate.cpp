@@ -52,10 +52,8 @@ void DrawText(QPainter &pPainter, const QRect &pPlace, const QString &pText) {
 }
 
 QPalette::ColorGroup GroupOf(QStyle::State pState) {
-    if (!pState.testFlag(QStyle::State_Enabled)) {
-        return QPalette::Disabled;
-    }
-    return pState.testFlag(QStyle::State_Active) ? QPalette::Active : QPalette::Inactive;
+    const auto enabled = pState.testFlag(QStyle::State_Active) ? QPalette::Active : QPalette::Inactive;
+    return pState.testFlag(QStyle::State_Enabled) ? enabled : QPalette::Disabled;
 }
 
 } // namespace

@@ -43,13 +43,11 @@ private:
     QComboBox &myBox;
 };
 
-QAccessibleInterface *Make(const QString & /*pClass*/, QObject *pObject) {
-    auto *box = dynamic_cast<ComboBoxView *>(pObject);
-    return box == nullptr ? nullptr : new ComboAccess(*box);
-}
-
 } // namespace
 
 void UseOwnAccessForComboBoxes() {
-    QAccessible::installFactory(Make);
+    QAccessible::installFactory([](const QString & /*pClass*/, QObject *pObject) -> QAccessibleInterface * {
+        auto *box = dynamic_cast<ComboBoxView *>(pObject);
+        return box == nullptr ? nullptr : new ComboAccess(*box);
+    });
 }

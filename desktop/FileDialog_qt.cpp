@@ -13,11 +13,6 @@
 
 namespace {
 
-/// The columns of Qt's list of files.
-constexpr int nameColumn = 0;
-constexpr int sizeColumn = 1;
-constexpr int typeColumn = 2;
-
 /// The filter in Qt's form: a description, and the pattern in parentheses.
 QString NameFilter(const FileDialogRequest &pRequest) {
     const QString description = ToQt(pRequest.description);
@@ -89,10 +84,10 @@ void FileDialog::FitColumns() {
     auto *files = findChild<QTreeView *>(QStringLiteral("treeView"));
     if (files != nullptr) {
         // Qt takes these widths from its saved settings. There are none, and its own widths are too small.
-        const QFontMetrics metrics = files->fontMetrics();
-        files->setColumnWidth(nameColumn, metrics.averageCharWidth() * 36);
-        files->setColumnWidth(sizeColumn, metrics.averageCharWidth() * 13);
-        files->setColumnWidth(typeColumn, metrics.averageCharWidth() * 16);
+        int column = 0;
+        for (const int letters : {36, 13, 16}) { // name, size, type
+            files->setColumnWidth(column++, files->fontMetrics().averageCharWidth() * letters);
+        }
     }
 }
 

@@ -26,8 +26,8 @@ private:
     bool HoldsRelease(QWindow &pWindow, const QKeyEvent &pRelease);
     void Deliver();
 
-    std::map<int, quint64>
-        myReleases; ///< time of the last release of each key, in the window system's milliseconds
+    /// The time of the last release of each key, in the window system's milliseconds.
+    std::map<int, quint64> myReleases;
     std::unique_ptr<QKeyEvent> myHeld; ///< a release of the space bar that may yet prove to be a repeat's
     QPointer<QWindow> myHeldFor;
     QTimer myWaiting;

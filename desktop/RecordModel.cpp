@@ -9,14 +9,6 @@ void RecordModel::Reset() {
     endResetModel();
 }
 
-int RecordModel::rowCount(const QModelIndex &pParent) const {
-    return pParent.isValid() ? 0 : myToldRows;
-}
-
-int RecordModel::columnCount(const QModelIndex &pParent) const {
-    return pParent.isValid() ? 0 : myToldColumns;
-}
-
 std::string_view RecordModel::Cell(const QModelIndex &pIndex) const {
     const bool isThere = pIndex.isValid() && pIndex.row() < myList.ListItems.Count();
     return isThere ? myList.ListItems(pIndex.row() + 1).Texts()(pIndex.column() + 1) : std::string_view();

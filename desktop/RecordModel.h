@@ -15,8 +15,12 @@ public:
     /// The text of a cell; empty if it isn't there.
     std::string_view Cell(const QModelIndex &pIndex) const;
 
-    int rowCount(const QModelIndex &pParent = {}) const override;
-    int columnCount(const QModelIndex &pParent = {}) const override;
+    int rowCount(const QModelIndex &pParent = {}) const override {
+        return pParent.isValid() ? 0 : myToldRows;
+    }
+    int columnCount(const QModelIndex &pParent = {}) const override {
+        return pParent.isValid() ? 0 : myToldColumns;
+    }
     QVariant data(const QModelIndex &pIndex, int pRole = Qt::DisplayRole) const override;
     QVariant headerData(int pSection, Qt::Orientation pOrientation, int pRole) const override;
 
