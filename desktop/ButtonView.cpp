@@ -1,10 +1,11 @@
-#include "desktop/ButtonView.h"
-
-#include "desktop/FormWindow.h"
+// The view of a command button, with a caption or a drawn triangle.
 #include "desktop/TextCodec.h"
+#include "desktop/Views.h"
+#include "forms/Controls.h"
 
 #include <QKeyEvent>
 #include <QPainter>
+#include <QPushButton>
 
 namespace {
 
@@ -18,71 +19,67 @@ QPolygonF Triangle(CommandButton::Picture pPicture, const QRectF &pRect) {
         {middle + QPointF(-halfWidth, -tip), middle + QPointF(halfWidth, -tip), middle + QPointF(0, tip)});
 }
 
-} // namespace
+class ButtonView : public QPushButton, public ControlView {
+public:
+    ButtonView(Acts &pActs, const CommandButton &pButton, QWidget &pParent)
+        : QPushButton(&pParent), ControlView(pActs, pButton), myButton(pButton) {
+        setAutoDefault(false);
+        connect(this, &QPushButton::clicked, this, [this] {
+            if (MayTakeFocus()) {
+                myActs.Run([this] { myButton.Press(); });
+            }
+        });
+    }
+    QWidget &Widget() override { return *this; }
 
-ButtonView::ButtonView(Acts &pActs, const CommandButton &pButton, QWidget &pParent)
-    : QPushButton(&pParent), ControlView(pActs, pButton), myButton(pButton) {
-    setAutoDefault(false);
-    connect(this, &QPushButton::clicked, this, [this] {
-        if (MayTakeFocus()) {
-            myActs.Handle([this] { myButton.Press(); });
-        }
-    });
-}
+protected:
+    Qt::FocusPolicy FocusPolicy() const override { return Qt::StrongFocus; }
 
-void ButtonView::Show() {
-    const QString caption = ToQt(myButton.Caption());
-    if (text() != caption) {
+    void Show() override {
+        const QString caption = ToQt(myButton.Caption());
         setText(caption);
+        setDefault(myButton.Default());
+        if (accessibleName().isEmpty() && caption.isEmpty()) {
+            setAccessibleName(ToQt(myButton.ToolTipText()));
+        }
     }
-    setDefault(myButton.Default());
-    if (accessibleName().isEmpty() && caption.isEmpty()) {
-        setAccessibleName(ToQt(myButton.ToolTipText()));
-    }
-}
 
-void ButtonView::ShowEnabled() {
-    // Qt would move the focus from a disabled button to the next one. A second press of the space bar would
-    // then act on that one.
-    auto *form = dynamic_cast<FormWindow *>(window());
-    if (!myButton.Enabled() && form != nullptr && form->focusWidget() == this) {
-        form->FocusFallback();
-    }
-    setEnabled(myButton.Enabled());
-}
-
-bool ButtonView::event(QEvent *pEvent) {
-    if (pEvent->type() == QEvent::Shortcut) {
-        PressByAccessKey();
+    bool event(QEvent *pEvent) override {
+        if (pEvent->type() != QEvent::Shortcut) {
+            return QPushButton::event(pEvent);
+        }
+        if (MayTakeFocus()) {
+            setFocus(Qt::ShortcutFocusReason);
+            click();
+        }
         return true;
     }
-    return QPushButton::event(pEvent);
-}
 
-void ButtonView::PressByAccessKey() {
-    if (MayTakeFocus()) {
-        setFocus(Qt::ShortcutFocusReason);
-        click();
+    void keyPressEvent(QKeyEvent *pEvent) override {
+        if (pEvent->key() == Qt::Key_Return || pEvent->key() == Qt::Key_Enter) {
+            click();
+        } else {
+            QPushButton::keyPressEvent(pEvent);
+        }
     }
-}
 
-void ButtonView::keyPressEvent(QKeyEvent *pEvent) {
-    const bool isEnter = pEvent->key() == Qt::Key_Return || pEvent->key() == Qt::Key_Enter;
-    if (!isEnter) {
-        QPushButton::keyPressEvent(pEvent);
-    } else {
-        click();
+    void paintEvent(QPaintEvent *pEvent) override {
+        QPushButton::paintEvent(pEvent);
+        if (myButton.Shows() != CommandButton::Picture::None) {
+            QPainter painter(this);
+            painter.setRenderHint(QPainter::Antialiasing);
+            painter.setPen(Qt::NoPen);
+            painter.setBrush(palette().brush(QPalette::ButtonText));
+            painter.drawPolygon(Triangle(myButton.Shows(), rect()));
+        }
     }
-}
 
-void ButtonView::paintEvent(QPaintEvent *pEvent) {
-    QPushButton::paintEvent(pEvent);
-    if (myButton.Shows() == CommandButton::Picture::None) {
-        return;
-    }
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(palette().brush(QPalette::ButtonText));
-    painter.drawPolygon(Triangle(myButton.Shows(), rect()));
+private:
+    const CommandButton &myButton;
+};
+
+} // namespace
+
+std::unique_ptr<ControlView> MakeButtonView(Acts &pActs, ::Control &pControl, QWidget &pParent) {
+    return MakeViewOf<ButtonView, CommandButton>(pActs, pControl, pParent);
 }

@@ -1,5 +1,5 @@
 #pragma once
-/// The view of one control: a widget that shows the control's state and passes on the user's acts. It
+/// The view of one control: a widget that shows the control's state and passes on what the user does. It
 /// remembers the control's revision, and does nothing until that changes.
 #include "desktop/Acts.h"
 #include "forms/Control.h"
@@ -37,7 +37,6 @@ protected:
     virtual QRect PlaceOf() const;
     /// Updates what only this kind of control has, beyond place, state and names.
     virtual void Show() = 0;
-    virtual void ShowEnabled();
 
     /// Whether the control that has the focus would let it move to this one. Assistive technology presses
     /// buttons and picks rows without moving the focus first.

@@ -52,7 +52,7 @@ void FieldText::Edited() {
     }
     const std::string bytes = FromQt(text);
     if (bytes.size() > mostEdited) {
-        TakeBack();
+        DropEdit();
         return;
     }
     const qsizetype afterCaret = myEdit.text().size() - myEdit.cursorPosition();
@@ -79,7 +79,7 @@ void FieldText::Replace(const QString &pText) {
     myEdit.insert(pText.mid(change.start, change.after));
 }
 
-void FieldText::TakeBack() {
+void FieldText::DropEdit() {
     const QScopedValueRollback showing(myIsShowing, true);
     myEdit.undo();
     Show();

@@ -24,7 +24,7 @@ public:
 
 private:
     void Replace(const QString &pText);
-    void TakeBack();
+    void DropEdit();
 
     QLineEdit &myEdit;
     const TextField &myField;

@@ -44,8 +44,9 @@ QLineEdit &EditOf(QComboBox &pBox) {
 } // namespace
 
 TextBoxView::TextBoxView(Acts &pActs, TextBox &pBox, QWidget &pParent)
-    : QLineEdit(&pParent), ControlView(pActs, pBox),
-      myText(*this, pBox, [&](const std::string &pText) { pActs.Note([&] { pBox.UserEdits(pText); }); }) {
+    : QLineEdit(&pParent), ControlView(pActs, pBox), myText(*this, pBox, [&](const std::string &pText) {
+          pActs.RunEvenUnderBox([&] { pBox.UserEdits(pText); });
+      }) {
     // Not textEdited: an edit by assistive technology doesn't emit it.
     connect(this, &QLineEdit::textChanged, this, [this] { myText.Edited(); });
 }
@@ -72,10 +73,6 @@ void ComboEntries::Sync() {
     }
 }
 
-int ComboEntries::rowCount(const QModelIndex &pParent) const {
-    return pParent.isValid() ? 0 : myToldCount;
-}
-
 QVariant ComboEntries::data(const QModelIndex &pIndex, int pRole) const {
     if (!pIndex.isValid() || pIndex.row() >= myBox.ListCount()) {
         return {};
@@ -91,7 +88,7 @@ ComboBoxView::ComboBoxView(Acts &pActs, ComboBox &pBox, QWidget &pParent)
     : QComboBox(&pParent), ControlView(pActs, pBox), myBox(pBox), myEntries(pBox),
       myText(EditOf(*this), pBox,
              [this](const std::string &pText) {
-                 myActs.Note([&] { myBox.UserEdits(pText, lineEdit()->cursorPosition()); });
+                 myActs.RunEvenUnderBox([&] { myBox.UserEdits(pText, lineEdit()->cursorPosition()); });
              }),
       myFrame(*this) {
     const QScopedValueRollback showing(myIsShowing, true);
@@ -108,7 +105,7 @@ ComboBoxView::ComboBoxView(Acts &pActs, ComboBox &pBox, QWidget &pParent)
     list->installEventFilter(this);
     PrepareEdit();
     connect(this, &QComboBox::activated, this,
-            [this](int pIndex) { myActs.Handle([&] { myBox.UserPicks(pIndex); }); });
+            [this](int pIndex) { myActs.Run([&] { myBox.UserPicks(pIndex); }); });
 }
 
 ComboBoxView::~ComboBoxView() {
@@ -181,16 +178,12 @@ int ComboBoxView::CurrentEntry() const {
     return -1;
 }
 
-int ComboBoxView::EntryLikeText() const {
-    return myBox.Text().empty() ? -1 : myBox.FindString(myBox.Text());
-}
-
 void ComboBoxView::Step(int pStep) {
     const int current = CurrentEntry();
     const int next = std::max(EntryLikeText(), 0);
     const int start = current >= 0 ? current : pStep > 0 ? next - 1 : next;
     const int index = std::clamp(start + pStep, 0, myBox.ListCount() - 1);
-    myActs.Handle([&] { myBox.UserPicks(index); });
+    myActs.Run([&] { myBox.UserPicks(index); });
 }
 
 void ComboBoxView::showPopup() {
@@ -221,7 +214,7 @@ void ComboBoxView::WidenPopup() {
     view()->setMinimumWidth(std::min(textWidth, mostWidth) + room);
 }
 
-bool ComboBoxView::ActOnEntries(const QKeyEvent &pEvent) {
+bool ComboBoxView::StepByKey(const QKeyEvent &pEvent) {
     const bool isUp = pEvent.key() == Qt::Key_Up || pEvent.key() == Qt::Key_PageUp;
     const bool isArrow = pEvent.key() == Qt::Key_Up || pEvent.key() == Qt::Key_Down;
     const bool isPage = pEvent.key() == Qt::Key_PageUp || pEvent.key() == Qt::Key_PageDown;
@@ -233,8 +226,8 @@ bool ComboBoxView::ActOnEntries(const QKeyEvent &pEvent) {
     }
     const bool isStep = (isArrow && !isWithControl) || (isPage && !isWithAlt);
     if (isStep && myBox.ListCount() > 0) {
-        const int places = isPage ? maxVisibleItems() : 1;
-        Step(isUp ? -places : places);
+        const int entries = isPage ? maxVisibleItems() : 1;
+        Step(isUp ? -entries : entries);
     }
     return isStep;
 }
@@ -243,7 +236,7 @@ void ComboBoxView::keyPressEvent(QKeyEvent *pEvent) {
     myBox.UserPressesKey(KindOf(*pEvent));
     if (pEvent->key() == Qt::Key_Return || pEvent->key() == Qt::Key_Enter || IsAccessKey(*pEvent)) {
         pEvent->ignore(); // The form may have a default button or an access key for it.
-    } else if (!ActOnEntries(*pEvent)) {
+    } else if (!StepByKey(*pEvent)) {
         QComboBox::keyPressEvent(pEvent);
     }
 }
@@ -263,7 +256,7 @@ bool ComboBoxView::eventFilter(QObject *pWatched, QEvent *pEvent) {
 void ComboBoxView::keyReleaseEvent(QKeyEvent *pEvent) {
     QComboBox::keyReleaseEvent(pEvent);
     if (!pEvent->isAutoRepeat()) {
-        myActs.Handle([&] { myBox.UserReleasesKey(KindOf(*pEvent)); });
+        myActs.Run([&] { myBox.UserReleasesKey(KindOf(*pEvent)); });
     }
 }
 

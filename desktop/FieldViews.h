@@ -33,7 +33,9 @@ public:
     /// Tells Qt how many entries there are if that has changed.
     void Sync();
 
-    int rowCount(const QModelIndex &pParent = {}) const override;
+    int rowCount(const QModelIndex &pParent = {}) const override {
+        return pParent.isValid() ? 0 : myToldCount;
+    }
     QVariant data(const QModelIndex &pIndex, int pRole) const override;
 
 private:
@@ -65,15 +67,15 @@ private:
     void ShowRefusal();
     /// Makes the popup wide enough for its entries.
     void WidenPopup();
-    /// Does what the key does in the list of entries. Returns whether it is such a key.
-    bool ActOnEntries(const QKeyEvent &pEvent);
-    /// Picks the entry pStep places after the current one, or the first or last entry if that is too far. If
+    /// Steps through the entries, or opens their list. Returns whether the key does so.
+    bool StepByKey(const QKeyEvent &pEvent);
+    /// Picks the entry pStep entries after the current one, or the first or last entry if that is too far. If
     /// none is current, counts from just before the first entry that begins like the text.
     void Step(int pStep);
     /// The current entry, else the one that equals the text, case ignored; -1 if there is none.
     int CurrentEntry() const;
     /// The first entry that begins like the text, case ignored; -1 if there is none, or no text.
-    int EntryLikeText() const;
+    int EntryLikeText() const { return myBox.Text().empty() ? -1 : myBox.FindString(myBox.Text()); }
 
     ComboBox &myBox;
     ComboEntries myEntries;

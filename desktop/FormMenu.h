@@ -6,7 +6,7 @@
 #include <QAction>
 #include <QMenuBar>
 
-#include <vector>
+#include <map>
 
 class Form;
 
@@ -20,14 +20,9 @@ public:
     bool IsEmpty() const { return myEntries.empty(); }
 
 private:
-    struct Entry {
-        const MenuItem *item;
-        QAction *action;
-    };
-
-    void AddEntry(Acts &pActs, const MenuItem &pItem, QWidget &pParent);
-    QMenu *MenuOf(const MenuItem &pItem);
+    void AddEntry(Acts &pActs, const MenuItem &pItem);
+    QWidget &ParentOf(const MenuItem &pItem) const;
 
     QMenuBar &myBar;
-    std::vector<Entry> myEntries;
+    std::map<const MenuItem *, QAction *> myEntries;
 };

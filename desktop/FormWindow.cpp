@@ -9,8 +9,6 @@
 #include <QKeyEvent>
 #include <QWindow>
 
-#include <algorithm>
-
 namespace {
 
 /// Milliseconds after the last change of size, when the size counts as settled.
@@ -18,8 +16,7 @@ constexpr int settlingTime = 250;
 
 } // namespace
 
-FormWindow::FormWindow(Acts &pActs, Form &pForm)
-    : myActs(pActs), myForm(pForm), myClient(new QWidget(this)), myGuard(*this) {
+FormWindow::FormWindow(Acts &pActs, Form &pForm) : myActs(pActs), myForm(pForm), myClient(new QWidget(this)) {
     mySettling.setSingleShot(true);
     mySettling.setInterval(settlingTime);
     connect(&mySettling, &QTimer::timeout, this, [this] { Settled(); });
@@ -37,7 +34,7 @@ FormWindow::FormWindow(Acts &pActs, Form &pForm)
     connect(qApp, &QApplication::focusChanged, this,
             [this](const QWidget * /*pBefore*/, const QWidget *pNow) { FocusMoved(pNow); });
     winId();
-    windowHandle()->installEventFilter(&myGuard);
+    windowHandle()->installEventFilter(this);
     if (myForm.Border() == Form::BorderStyle::FixedDialog) {
         StandAlone(*this);
     }
@@ -73,34 +70,6 @@ void FormWindow::AddViews() {
     }
 }
 
-void FormWindow::SetTabOrder() const {
-    std::vector<ControlView *> order;
-    for (const auto &view : myViews) {
-        if (view->TakesFocus()) {
-            order.push_back(view.get());
-        }
-    }
-    const auto isBefore = [](const ControlView *pOne, const ControlView *pOther) {
-        return pOne->Control().TabIndex() < pOther->Control().TabIndex();
-    };
-    std::stable_sort(order.begin(), order.end(), isBefore);
-    for (std::size_t at = 1; at < order.size(); ++at) {
-        setTabOrder(&order[at - 1]->Widget(), &order[at]->Widget());
-    }
-    if (!order.empty()) {
-        order.front()->Widget().setFocus();
-    }
-}
-
-void FormWindow::ShowFocus() {
-    // Enter acts on the focused control from the first moment, so the user must see which one it is before
-    // any Tab.
-    setAttribute(Qt::WA_KeyboardFocusChange);
-    if (focusWidget() != nullptr) {
-        focusWidget()->update();
-    }
-}
-
 void FormWindow::Sync() {
     myMenu->Sync();
     for (const auto &view : myViews) {
@@ -116,20 +85,19 @@ void FormWindow::Sync() {
 
 void FormWindow::Retire() {
     myIsReady = false;
-    myIsRetired = true;
     hide();
     deleteLater();
 }
 
-void FormWindow::Handle(const std::function<void()> &pAct) {
-    if (!myIsRetired) {
-        myActs.Handle(pAct);
+void FormWindow::Run(const std::function<void()> &pAct) {
+    if (myIsReady) {
+        myActs.Run(pAct);
     }
 }
 
-void FormWindow::Note(const std::function<void()> &pAct) {
-    if (!myIsRetired) {
-        myActs.Note(pAct);
+void FormWindow::RunEvenUnderBox(const std::function<void()> &pAct) {
+    if (myIsReady) {
+        myActs.RunEvenUnderBox(pAct);
     }
 }
 
@@ -154,7 +122,7 @@ void FormWindow::changeEvent(QEvent *pEvent) {
 }
 
 bool FormWindow::event(QEvent *pEvent) {
-    const bool isTaken = QWidget::event(pEvent);
+    const bool isHandled = QWidget::event(pEvent);
     if (pEvent->type() == QEvent::WindowActivate) {
         ShowFocus();
     }
@@ -168,66 +136,20 @@ bool FormWindow::event(QEvent *pEvent) {
         Arrange();
         ReportSize();
     }
-    return isTaken;
+    return isHandled;
 }
 
 void FormWindow::closeEvent(QCloseEvent *pEvent) {
-    if (myIsReady) {
-        myActs.Handle([this] { myForm.UserCloses(); });
-    }
+    Run([this] { myForm.UserCloses(); });
     pEvent->setAccepted(!myIsReady); // The form stays loaded only if a box is waiting.
 }
 
 void FormWindow::keyPressEvent(QKeyEvent *pEvent) {
-    if (!myIsReady) {
-        return;
-    }
     if (pEvent->key() == Qt::Key_Escape) {
-        myActs.Handle([this] { myForm.UserPressesEscape(); });
+        Run([this] { myForm.UserPressesEscape(); });
     } else if (pEvent->key() == Qt::Key_Return || pEvent->key() == Qt::Key_Enter) {
-        myActs.Handle([this] { myForm.UserPressesEnter(); });
+        Run([this] { myForm.UserPressesEnter(); });
     } else {
         QWidget::keyPressEvent(pEvent);
-    }
-}
-
-bool FormWindow::MayFocusMoveTo(const QWidget *pTarget) {
-    if (myFocused == nullptr || pTarget == &myFocused->Widget() || myFocused->MayLoseFocus()) {
-        return true;
-    }
-    myFocused->Sync();
-    if (focusWidget() == myBar) {
-        myFocused->Widget().setFocus(Qt::OtherFocusReason);
-    }
-    return false;
-}
-
-void FormWindow::FocusMoved(const QWidget *pNow) {
-    if (!myIsReady) {
-        return;
-    }
-    const auto hasFocus = [&](const auto &pView) { return &pView->Widget() == pNow; };
-    const auto view = std::find_if(myViews.begin(), myViews.end(), hasFocus);
-    if (view == myViews.end()) {
-        return;
-    }
-    if (MayFocusMoveTo(pNow)) {
-        myFocused = view->get();
-    } else {
-        // Assistive technology moves the focus without asking. Put it back later: Qt is still moving it.
-        QTimer::singleShot(0, this, [this] { myFocused->Widget().setFocus(Qt::OtherFocusReason); });
-    }
-}
-
-bool FormWindow::focusNextPrevChild(bool pNext) {
-    // A refused Tab counts as handled. Otherwise the field would get it as a character.
-    return !MayFocusMoveTo(nullptr) || QWidget::focusNextPrevChild(pNext);
-}
-
-void FormWindow::FocusFallback() const {
-    const auto takesIt = [](const auto &pView) { return pView->TakesFocusOfDisabled(); };
-    const auto view = std::find_if(myViews.begin(), myViews.end(), takesIt);
-    if (view != myViews.end()) {
-        (*view)->Widget().setFocus(Qt::OtherFocusReason);
     }
 }

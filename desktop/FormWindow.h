@@ -1,9 +1,8 @@
 #pragma once
-/// The window of one form: a menu bar, a view for each control, and the user's acts on the window itself. It
-/// shows the controls that the form has when the window is made.
+/// The window of one form: a menu bar, a view for each control, and what the user does to the window itself.
+/// It shows the controls that the form has when the window is made.
 #include "desktop/Acts.h"
 #include "desktop/ControlView.h"
-#include "desktop/FocusGuard.h"
 #include "desktop/FormMenu.h"
 #include "forms/Form.h"
 
@@ -24,9 +23,9 @@ public:
     /// Takes the window off the screen and stops it from passing anything on. Its form has been unloaded.
     void Retire();
 
-    /// The acts of the views, passed on as long as the form is there.
-    void Handle(const std::function<void()> &pAct) override;
-    void Note(const std::function<void()> &pAct) override;
+    /// Pass on the acts of the views as long as the form is there.
+    void Run(const std::function<void()> &pAct) override;
+    void RunEvenUnderBox(const std::function<void()> &pAct) override;
 
     /// Whether the control that has the focus lets the user move it to pTarget; null stands for the target
     /// of Tab. While the menu bar has the focus, the control that had it before is asked, and gets it back
@@ -42,6 +41,7 @@ protected:
     void closeEvent(QCloseEvent *pEvent) override;
     void keyPressEvent(QKeyEvent *pEvent) override;
     bool event(QEvent *pEvent) override;
+    bool eventFilter(QObject *pWatched, QEvent *pEvent) override;
     bool focusNextPrevChild(bool pNext) override;
 
 private:
@@ -50,6 +50,10 @@ private:
     void SetTabOrder() const;
     void ShowFocus();
     void FocusMoved(const QWidget *pNow);
+    /// Whether a press of the mouse there would take the focus from a field that refuses.
+    bool RefusesPress(const QPoint &pAt);
+    /// The first view that passes pTest; null if none does.
+    template <typename Test> ControlView *FirstView(Test pTest) const;
     int MenuHeight(int pWidth) const;
     void Arrange();
     void ReportSize();
@@ -70,9 +74,8 @@ private:
     std::unique_ptr<FormMenu> myMenu;
     std::vector<std::unique_ptr<ControlView>> myViews;
     ControlView *myFocused = nullptr; ///< the view that has the focus, or had it last
-    FocusGuard myGuard;
+    Qt::MouseButtons myDropped;       ///< buttons whose press was dropped and whose release is still to come
     bool myIsReady = false;
-    bool myIsRetired = false;
     int myShownRevision = 0;
     bool myHasAskedAgain = false;
     QTimer mySettling;

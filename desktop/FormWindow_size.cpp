@@ -95,7 +95,7 @@ void FormWindow::ReportSize() {
     }
     mySettling.start();
     const QSize client = myClient->size();
-    myActs.Note([&] {
+    RunEvenUnderBox([&] {
         myForm.UserSizes(TwipsOf(client.width(), myForm.ClientWidth()),
                          TwipsOf(client.height(), myForm.ClientHeight()), State());
     });

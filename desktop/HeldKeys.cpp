@@ -15,7 +15,7 @@ bool IsOnButton() {
     return qobject_cast<QAbstractButton *>(QApplication::focusWidget()) != nullptr;
 }
 
-bool ActsOnce(const QKeyEvent &pKey) {
+bool MustNotRepeat(const QKeyEvent &pKey) {
     return pKey.key() == Qt::Key_Return || pKey.key() == Qt::Key_Enter || pKey.key() == Qt::Key_Escape ||
            (pKey.key() == Qt::Key_Space && IsOnButton());
 }
@@ -42,7 +42,7 @@ bool HeldKeys::IsRepeat(const QKeyEvent &pPress) const {
 }
 
 bool HeldKeys::DropsPress(const QKeyEvent &pPress) {
-    if (!ActsOnce(pPress) || !IsRepeat(pPress)) {
+    if (!MustNotRepeat(pPress) || !IsRepeat(pPress)) {
         return false;
     }
     if (myHeld != nullptr && myHeld->key() == pPress.key()) {

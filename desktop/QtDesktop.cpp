@@ -49,12 +49,6 @@ QUrl FileAddress(const std::string &pPath) {
 /// count it as taken only once it is used.
 constexpr std::size_t spareBytes = std::size_t{16} << 20U;
 
-/// Whether pTarget is a web address or the like. A single letter before the colon is a drive.
-bool IsAddress(const std::string &pTarget) {
-    const QString scheme = QUrl(ToQt(pTarget)).scheme();
-    return scheme.size() > 1;
-}
-
 } // namespace
 
 QtDesktop::QtDesktop() : mySpare(std::make_unique_for_overwrite<char[]>(spareBytes)) {
@@ -82,19 +76,19 @@ void QtDesktop::Sync() {
     }
 }
 
-void QtDesktop::Handle(const std::function<void()> &pAct) {
+void QtDesktop::Run(const std::function<void()> &pAct) {
     if (myDepth == 0) {
-        Note(pAct);
+        RunEvenUnderBox(pAct);
     }
 }
 
-void QtDesktop::Note(const std::function<void()> &pAct) {
+void QtDesktop::RunEvenUnderBox(const std::function<void()> &pAct) {
     {
         const QScopedValueRollback depth(myDepth, myDepth + 1);
         if (myRuntime == nullptr) {
             pAct();
         } else {
-            myRuntime->Act(pAct);
+            myRuntime->Run(pAct);
         }
         if (!HasMemoryFor([this] { Sync(); }) && myRuntime != nullptr) {
             myRuntime->MsgBox("There is not enough memory to show all of this. Nothing is lost.");
@@ -178,8 +172,9 @@ void QtDesktop::CloseForm(Form &pForm) {
 }
 
 void QtDesktop::OpenTarget(const std::string &pTarget) {
-    if (IsAddress(pTarget)) {
-        QDesktopServices::openUrl(QUrl(ToQt(pTarget)));
+    const QUrl address(ToQt(pTarget));
+    if (address.scheme().size() > 1) { // A single letter before the colon is a drive.
+        QDesktopServices::openUrl(address);
     } else if (os::IsFile(pTarget) || os::IsFolder(pTarget)) {
         QDesktopServices::openUrl(FileAddress(os::NativePath(pTarget)));
     }

@@ -1,5 +1,5 @@
 #pragma once
-/// The desktop port, by Qt. All acts of the user reach the program through it.
+/// The desktop port, by Qt. All that the user does reaches the program through it.
 #include "desktop/Acts.h"
 #include "desktop/FormWindow.h"
 #include "desktop/HeldKeys.h"
@@ -33,8 +33,8 @@ public:
     void OpenTarget(const std::string &pTarget) override;
     [[noreturn]] void EndProcess(int pStatus) override;
 
-    void Handle(const std::function<void()> &pAct) override;
-    void Note(const std::function<void()> &pAct) override;
+    void Run(const std::function<void()> &pAct) override;
+    void RunEvenUnderBox(const std::function<void()> &pAct) override;
 
 private:
     void Sync();

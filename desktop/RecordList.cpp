@@ -10,6 +10,7 @@
 #include <QPainter>
 #include <QScopedValueRollback>
 #include <QScrollBar>
+#include <QTimer>
 
 #include <algorithm>
 
@@ -17,12 +18,9 @@ RecordList::RecordList(Acts &pActs, ListView &pList, QWidget &pParent)
     : QTableView(&pParent), ControlView(pActs, pList), myList(pList), myModel(pList) {
     setModel(&myModel);
     Prepare();
-    // The timer waits until Qt has finished changing its selection.
-    mySelectedByOthers.setSingleShot(true);
-    connect(&mySelectedByOthers, &QTimer::timeout, this, [this] { SelectedByOthers(); });
     connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
-        if (!myIsShowing) {
-            mySelectedByOthers.start(0);
+        if (!myIsShowing) { // Later: Qt is still changing its selection.
+            QTimer::singleShot(0, this, [this] { SelectedByOthers(); });
         }
     });
 }
@@ -35,13 +33,8 @@ void RecordList::Prepare() {
     setItemDelegate(new CellDelegate(myModel, *this));
     setSelectionBehavior(SelectRows);
     setSelectionMode(SingleSelection);
-    setEditTriggers(NoEditTriggers);
     setTabKeyNavigation(false);
     setAutoScroll(false);
-    setDragDropMode(NoDragDrop);
-    setWordWrap(false);
-    setTextElideMode(Qt::ElideRight);
-    setCornerButtonEnabled(false);
     setHorizontalScrollMode(ScrollPerPixel);
     setVerticalScrollMode(ScrollPerItem);
 
@@ -51,12 +44,10 @@ void RecordList::Prepare() {
 
     QHeaderView &headings = *horizontalHeader();
     headings.setSectionsClickable(false);
-    headings.setSectionsMovable(false);
     headings.setHighlightSections(false);
     headings.setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     headings.setTextElideMode(Qt::ElideRight);
     headings.setMinimumSectionSize(0);
-    headings.setStretchLastSection(false);
     headings.viewport()->installEventFilter(this);
     FitRowHeight();
 }
@@ -91,7 +82,7 @@ void RecordList::Show() {
     }
     if (myShownView != myList.ViewRevision()) {
         myShownView = myList.ViewRevision();
-        ScrollTo(myList.WantedInView() - 1);
+        ScrollTo(myList.WantedInView());
     }
 }
 
@@ -123,14 +114,14 @@ void RecordList::ShowRows() {
     ShowSelection();
     const bool hasMoved = before != 0 && myShownSelected != 0 && before != myShownSelected;
     if (hasMoved) {
-        ScrollTo(myShownSelected - 1);
+        ScrollTo(myShownSelected);
     }
 }
 
 void RecordList::ShowSelection() {
     myShownSelected = myList.SelectedIndex();
     QItemSelectionModel &selection = *selectionModel();
-    const auto rowAt = [this](int pPlace) { return myModel.index(pPlace - 1, 0); };
+    const auto rowAt = [this](int pRow) { return myModel.index(pRow - 1, 0); };
     selection.setCurrentIndex(rowAt(myList.CurrentIndex()), QItemSelectionModel::NoUpdate);
     if (myShownSelected == 0) {
         selection.clearSelection();
@@ -142,12 +133,12 @@ void RecordList::ShowSelection() {
 
 void RecordList::SelectedByOthers() {
     const QModelIndexList rows = selectionModel()->selectedRows();
-    const int place = rows.isEmpty() ? 0 : rows.first().row() + 1;
-    if (place == myList.SelectedIndex()) {
+    const int row = rows.isEmpty() ? 0 : rows.first().row() + 1;
+    if (row == myList.SelectedIndex()) {
         return;
     }
-    if (place > 0 && place <= myList.ListItems.Count() && MayTakeFocus()) {
-        myActs.Handle([&] { myList.Pick(place); });
+    if (row > 0 && row <= myList.ListItems.Count() && MayTakeFocus()) {
+        myActs.Run([&] { myList.Pick(row); });
     }
     const QScopedValueRollback showing(myIsShowing, true);
     ShowSelection(); // If nothing was picked, this restores the runtime's selection.
@@ -155,7 +146,7 @@ void RecordList::SelectedByOthers() {
 
 void RecordList::ScrollTo(int pRow) {
     const int left = horizontalScrollBar()->value();
-    scrollTo(myModel.index(pRow, 0), EnsureVisible);
+    scrollTo(myModel.index(pRow - 1, 0), EnsureVisible);
     horizontalScrollBar()->setValue(left);
 }
 
@@ -163,7 +154,7 @@ int RecordList::PageOfRows() const {
     return std::max(viewport()->height() / verticalHeader()->defaultSectionSize() - 1, 1);
 }
 
-int RecordList::PlaceByKey(int pKey) const {
+std::optional<int> RecordList::RowByKey(int pKey) const {
     const int current = myList.CurrentIndex();
     const bool isSelected = myList.SelectedItem() != nullptr;
     switch (pKey) {
@@ -183,37 +174,26 @@ int RecordList::PlaceByKey(int pKey) const {
     case Qt::Key_Enter:
         return current;
     default:
-        return 0;
+        return std::nullopt;
     }
 }
 
-void RecordList::PickByKey(int pPlace) {
+void RecordList::PickByKey(int pRow) {
     if (myList.ListItems.Count() > 0) {
-        const int place = std::clamp(pPlace, 1, myList.ListItems.Count());
-        myActs.Handle([&] { myList.Pick(place); });
-        ScrollTo(place - 1);
+        const int row = std::clamp(pRow, 1, myList.ListItems.Count());
+        myActs.Run([&] { myList.Pick(row); });
+        ScrollTo(row);
     }
 }
 
 void RecordList::keyPressEvent(QKeyEvent *pEvent) {
-    switch (pEvent->key()) {
-    case Qt::Key_Up:
-    case Qt::Key_Down:
-    case Qt::Key_PageUp:
-    case Qt::Key_PageDown:
-    case Qt::Key_Home:
-    case Qt::Key_End:
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        PickByKey(PlaceByKey(pEvent->key()));
-        break;
-    case Qt::Key_Left:
+    if (const std::optional<int> row = RowByKey(pEvent->key())) {
+        PickByKey(*row);
+    } else if (pEvent->key() == Qt::Key_Left) {
         horizontalScrollBar()->triggerAction(QScrollBar::SliderSingleStepSub);
-        break;
-    case Qt::Key_Right:
+    } else if (pEvent->key() == Qt::Key_Right) {
         horizontalScrollBar()->triggerAction(QScrollBar::SliderSingleStepAdd);
-        break;
-    default:
+    } else {
         pEvent->setAccepted(PickByText(*pEvent));
     }
 }
@@ -225,9 +205,9 @@ bool RecordList::PickByText(const QKeyEvent &pEvent) {
     if (!isTyped || pEvent.text().isEmpty() || !pEvent.text().at(0).isPrint()) {
         return false;
     }
-    const int place = mySearch.Typed(pEvent.text(), myList);
-    if (place > 0) {
-        PickByKey(place);
+    const int row = mySearch.Typed(pEvent.text(), myList);
+    if (row > 0) {
+        PickByKey(row);
     }
     return true;
 }
@@ -263,7 +243,7 @@ bool RecordList::eventFilter(QObject *pWatched, QEvent *pEvent) {
 void RecordList::mousePressEvent(QMouseEvent *pEvent) {
     const QModelIndex cell = indexAt(pEvent->position().toPoint());
     if (pEvent->button() == Qt::LeftButton && cell.isValid()) {
-        myActs.Handle([&] { myList.Pick(cell.row() + 1); });
+        myActs.Run([&] { myList.Pick(cell.row() + 1); });
     }
 }
 

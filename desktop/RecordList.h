@@ -6,7 +6,8 @@
 #include "desktop/TypedSearch.h"
 
 #include <QTableView>
-#include <QTimer>
+
+#include <optional>
 
 class RecordList : public QTableView, public ControlView {
 public:
@@ -36,14 +37,15 @@ private:
     void ShowSelection();
     void SelectedByOthers();
     void ScrollTo(int pRow);
-    void PickByKey(int pPlace);
+    // Rows count from 1, as in the ListView.
+    void PickByKey(int pRow);
     bool PickByText(const QKeyEvent &pEvent);
-    int PlaceByKey(int pKey) const;
+    /// The row that the key leads to, perhaps outside the list; none if it isn't such a key.
+    std::optional<int> RowByKey(int pKey) const;
     int PageOfRows() const;
 
     ListView &myList;
     RecordModel myModel;
-    QTimer mySelectedByOthers;
     TypedSearch mySearch;
     bool myIsShowing = false;
     int myShownRows = 0;

@@ -5,9 +5,9 @@
 // Most styles put a focus frame under the field, and leave it only what lies outside.
 
 bool RefusalFrame::eventFilter(QObject *pWatched, QEvent *pEvent) {
-    const bool isTaken = QFocusFrame::eventFilter(pWatched, pEvent);
+    const bool isHandled = QFocusFrame::eventFilter(pWatched, pEvent);
     ShowAboveField();
-    return isTaken;
+    return isHandled;
 }
 
 void RefusalFrame::showEvent(QShowEvent *pEvent) {

@@ -7,9 +7,9 @@
 
 class TypedSearch {
 public:
-    /// The user has typed pText while pList has the focus. Returns the place of the item to pick; 0 if there
-    /// is none. Letters that follow at once, within Qt's keyboardInputInterval, narrow the search, but the
-    /// same letter again goes on to the next item that begins with it.
+    /// The user has typed pText while pList has the focus. Returns the row of the item to pick, from 1; 0 if
+    /// there is none. Letters that follow at once, within Qt's keyboardInputInterval, narrow the search, but
+    /// the same letter again goes on to the next item that begins with it.
     int Typed(const QString &pText, const ListView &pList);
 
 private:

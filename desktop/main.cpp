@@ -1,17 +1,36 @@
 /// The program: composes desktop, runtime and editor, and runs the event loop.
 #include "app/VersionRecord.h"
 #include "app/modMain.h"
-#include "desktop/Application.h"
 #include "desktop/ContrastStyle.h"
 #include "desktop/Look.h"
 #include "desktop/QtDesktop.h"
 #include "desktop/WindowSystem.h"
 #include "forms/Runtime.h"
+#include "system/Memory.h"
 #include "system/System.h"
+
+#include <QApplication>
 
 #include <memory>
 #include <optional>
 #include <string>
+
+namespace {
+
+/// Goes on when memory runs out while Qt shows something. What was to be shown stays unshown. An act has a
+/// way of its own to tell of it.
+class Application : public QApplication {
+public:
+    using QApplication::QApplication;
+
+    bool notify(QObject *pReceiver, QEvent *pEvent) override {
+        bool isHandled = false;
+        HasMemoryFor([&] { isHandled = QApplication::notify(pReceiver, pEvent); });
+        return isHandled;
+    }
+};
+
+} // namespace
 
 int main(int argc, char *argv[]) {
     os::LetCallsFail();
@@ -35,7 +54,7 @@ int main(int argc, char *argv[]) {
     Runtime runtime(desktop, MakeAppRecord(os::ProgramFile()), command);
     desktop.Serves(runtime);
     std::unique_ptr<modMain> module;
-    desktop.Handle([&] {
+    desktop.Run([&] {
         module = std::make_unique<modMain>(runtime);
         module->Main();
     });

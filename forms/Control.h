@@ -70,7 +70,7 @@ public:
     bool Enabled() const { return myEnabled; }
     void Enabled(bool pEnabled) { Change(myEnabled, pEnabled); }
 
-    /// Place in the tab order, from 0. Controls without one come last, in order of creation.
+    /// Position in the tab order, from 0. Controls without one come last, in order of creation.
     int TabIndex() const { return myTabIndex; }
     void TabIndex(int pIndex) { myTabIndex = pIndex; }
 

@@ -22,7 +22,8 @@ enum class MessageButtons {
 
 enum class MessageAnswer { Ok = 1, Cancel = 2 };
 
-/// Its texts lie with whoever asks for it, so that a message about a lack of memory needs none.
+/// A message to show. It copies no text: the caller of ShowMessage owns prompt and title, and keeps them
+/// until the call returns. So a message about a lack of memory needs no memory of its own.
 struct Message {
     std::string_view prompt;
     MessageButtons buttons;

@@ -12,8 +12,8 @@ void ListItem::Texts(TextRow pTexts) {
     myOwner.RowsChanged();
 }
 
-void ListItem::SetText(int pNumber, std::string_view pText) {
-    myTexts.Set(pNumber, pText);
+void ListItem::SetText(int pColumn, std::string_view pText) {
+    myTexts.Set(pColumn, pText);
     myOwner.RowsChanged();
 }
 
@@ -92,9 +92,9 @@ void ListView::EnsureVisible(int pIndex) {
 int ListView::FindItem(std::string_view pStart, int pFrom) const {
     const int count = ListItems.Count();
     for (int step = 0; step < count; ++step) {
-        const int index = (pFrom - 1 + step) % count + 1;
-        if (BeginsWithIgnoringCase(ListItems(index).Text(), pStart)) {
-            return index;
+        const int row = (pFrom - 1 + step) % count + 1;
+        if (BeginsWithIgnoringCase(ListItems(row).Text(), pStart)) {
+            return row;
         }
     }
     return 0;
@@ -123,11 +123,9 @@ void ListView::ItemAdded() {
 }
 
 void ListView::ItemRemoved(int pIndex) {
-    // The item after the removed one gets its index, so only indexes further down change. If the removed item
-    // was the last one, the index becomes that of the new last item.
-    const auto follow = [&](int pOther) {
-        return std::min(pOther - (pIndex < pOther ? 1 : 0), ListItems.Count());
-    };
+    // The item after the removed one moves into its row, so only rows further down change. If the removed
+    // item was the last one, the new last item follows it.
+    const auto follow = [&](int pRow) { return std::min(pRow - (pIndex < pRow ? 1 : 0), ListItems.Count()); };
     mySelected = follow(mySelected);
     myCurrent = follow(myCurrent);
     RowsChanged();

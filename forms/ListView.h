@@ -1,6 +1,6 @@
 #pragma once
 /// The list control in report view: items, each of a text and sub items, under column headings. At most one
-/// item is selected. Places count from 1. A desktop reads the rows here and keeps no copy.
+/// item is selected. Rows and columns count from 1. A desktop reads the rows here and keeps no copy.
 #include "forms/Control.h"
 #include "forms/Event.h"
 #include "text/TextRow.h"
@@ -22,7 +22,7 @@ public:
     std::string_view Text() const { return myTexts(1); }
     void Text(std::string_view pText) { SetText(1, pText); }
 
-    /// Place in the list, from 1.
+    /// Its row, from 1.
     int Index() const;
 
     int SubItemCount() const { return std::max(myTexts.Count() - 1, 0); }
@@ -38,7 +38,7 @@ public:
     void Texts(TextRow pTexts);
 
 private:
-    void SetText(int pNumber, std::string_view pText);
+    void SetText(int pColumn, std::string_view pText);
 
     ListView &myOwner;
     TextRow myTexts;
@@ -102,15 +102,15 @@ public:
 
     /// The selected item; null if none is.
     ListItem *SelectedItem() const;
-    /// Place of the selected item, from 1; 0 if none is selected. Setting 0 clears the selection.
+    /// Row of the selected item, from 1; 0 if none is selected. Setting 0 clears the selection.
     int SelectedIndex() const { return mySelected; }
     void SelectedIndex(int pIndex);
 
-    /// Place of the item that the arrow keys start from, from 1; 0 in an empty list. It stays when the
+    /// Row of the item that the arrow keys start from, from 1; 0 in an empty list. It stays when the
     /// selection is cleared.
     int CurrentIndex() const { return myCurrent; }
 
-    /// Place of the first item whose text begins with pStart, case ignored; 0 if there is none. The search
+    /// Row of the first item whose text begins with pStart, case ignored; 0 if there is none. The search
     /// goes from pFrom to the end of the list, then from its start to the item before pFrom.
     int FindItem(std::string_view pStart, int pFrom) const;
 

@@ -34,7 +34,7 @@ void Runtime::End(int pStatus) const {
     std::abort(); // Not reached, but the compiler ignores [[noreturn]] on a virtual function.
 }
 
-void Runtime::Act(const std::function<void()> &pAct) const {
+void Runtime::Run(const std::function<void()> &pAct) const {
     if (!HasMemoryFor(pAct)) {
         RecoverFromLackOfMemory();
     }

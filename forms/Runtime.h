@@ -46,10 +46,10 @@ public:
     /// Ends the program at once. No further statement runs, and no unload event comes.
     [[noreturn]] void End(int pStatus = 0) const;
 
-    /// Runs pAct, the start or an act of the user. If memory runs out in it, tells the user, and ends the
-    /// program if it shows no form yet. Otherwise the program goes on as it was before the act: a handler
-    /// gets all memory that it needs before it changes anything.
-    void Act(const std::function<void()> &pAct) const;
+    /// Runs pAct: the start, or one thing that the user does. If memory runs out in it, tells the user, and
+    /// ends the program if it shows no form yet. Otherwise the program goes on as it was before the act: a
+    /// handler gets all memory that it needs before it changes anything.
+    void Run(const std::function<void()> &pAct) const;
 
     /// Makes a form, not yet loaded. The runtime owns it to the end.
     Form &NewForm();

@@ -32,7 +32,7 @@ Bench::Bench() {
     cmdCancel.Click.Connect([this] { acts += "Cancel "; });
     list.ItemClick.Connect([this](ListItem &pItem) { acts += std::to_string(pItem.Index()) + " "; });
     layout.SetLayout(form);
-    desktop.Handle([this] { form.Show(); });
+    desktop.Run([this] { form.Show(); });
     window = desktop.WindowOf(form);
     addButton = window->findChild<QPushButton *>();
     table = window->findChild<QTableView *>();

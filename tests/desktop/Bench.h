@@ -28,7 +28,7 @@ protected:
 
     /// Brings the window up to date after the test has changed the form.
     void Sync() {
-        desktop.Handle([] {});
+        desktop.Run([] {});
     }
 
     /// Presses and releases a key, with the letter that it types. A key held down also sends presses and

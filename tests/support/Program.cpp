@@ -54,7 +54,7 @@ Program::Program(std::string pExeName) : myExeName(std::move(pExeName)) {
 Program &Program::Act(const std::function<void()> &pAct) {
     Scarcity::isCounting = true;
     try {
-        myRuntime->Act(pAct);
+        myRuntime->Run(pAct);
         myRuntime->EndIfNoFormIsLoaded();
     } catch (const ProgramEnded &end) {
         myExitStatus = end.status;
