@@ -1,6 +1,7 @@
 #include "desktop/FieldText.h"
 
 #include "desktop/TextCodec.h"
+#include "text/Difference.h"
 
 #include <QScopedValueRollback>
 
@@ -12,26 +13,6 @@ namespace {
 /// In bytes. A field shows only the start of a longer text: Qt would measure all of it at each key and each
 /// blink of the caret. The record keeps the whole text until the user replaces it.
 constexpr std::size_t mostEdited = 1'000'000;
-
-/// The part of a text between the start and the end that it has in common with another.
-struct Difference {
-    qsizetype start;  ///< length of the common start
-    qsizetype before; ///< length of what stands after it in the one text
-    qsizetype after;  ///< and in the other
-};
-
-Difference Between(const QString &pBefore, const QString &pAfter) {
-    const qsizetype most = std::min(pBefore.size(), pAfter.size());
-    qsizetype start = 0;
-    while (start < most && pBefore[start] == pAfter[start]) {
-        ++start;
-    }
-    qsizetype end = 0;
-    while (end < most - start && pBefore[pBefore.size() - 1 - end] == pAfter[pAfter.size() - 1 - end]) {
-        ++end;
-    }
-    return {start, pBefore.size() - end - start, pAfter.size() - end - start};
-}
 
 } // namespace
 
@@ -47,7 +28,7 @@ void FieldText::Edited() {
     }
     QString text = myEdit.text();
     if (myIsCut) {
-        const Difference typed = Between(ToQtLine(myField.Text(), mostShown), text);
+        const Difference typed = DifferenceBetween(ToQtLine(myField.Text(), mostShown), text);
         text = text.mid(typed.start, typed.after);
     }
     const std::string bytes = FromQt(text);
@@ -74,7 +55,7 @@ void FieldText::Edited() {
 void FieldText::Replace(const QString &pText) {
     // As an edit in place of the user's own. setText would forget what can be undone.
     myEdit.undo();
-    const Difference change = Between(myEdit.text(), pText);
+    const Difference change = DifferenceBetween(myEdit.text(), pText);
     myEdit.setSelection(static_cast<int>(change.start), static_cast<int>(change.before));
     myEdit.insert(pText.mid(change.start, change.after));
 }
