@@ -8,17 +8,18 @@
 #include <utility>
 #include <vector>
 
-clsCombo::~clsCombo() {
+void clsCombo::LeaveBox() {
     if (myCB != nullptr) {
-        myCB->KeyUp.Disconnect();
-        myCB->Validate.Disconnect();
+        myCB->KeyUp.Disconnect(this);
+        myCB->Validate.Disconnect(this);
     }
 }
 
 void clsCombo::cb(ComboBox &pCB) {
+    LeaveBox();
     myCB = &pCB;
-    myCB->KeyUp.Connect([this](FieldKey Key) { myCB_KeyUp(Key); });
-    myCB->Validate.Connect([this](bool &Cancel) { myCB_Validate(Cancel); });
+    myCB->KeyUp.Connect([this](FieldKey Key) { myCB_KeyUp(Key); }, this);
+    myCB->Validate.Connect([this](bool &Cancel) { myCB_Validate(Cancel); }, this);
 }
 
 void clsCombo::Clear() {

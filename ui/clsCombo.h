@@ -13,11 +13,11 @@ enum class FieldKey;
 class clsCombo {
 public:
     clsCombo() = default;
-    ~clsCombo();
+    ~clsCombo() { LeaveBox(); }
     clsCombo(const clsCombo &) = delete;
     clsCombo &operator=(const clsCombo &) = delete;
 
-    /// Serves pCB from now on.
+    /// Serves pCB from now on, and no longer the box before. Other objects may serve pCB too.
     void cb(ComboBox &pCB);
 
     /// 0 or below: any text. 1: the text must be an entry of the list, unless the list is empty. 2: as 1,
@@ -35,6 +35,7 @@ public:
     std::string_view Fault() const { return myFault.Words(); }
 
 private:
+    void LeaveBox();
     void myCB_KeyUp(FieldKey Key);
     void myCB_Validate(bool &Cancel) const;
     static void AutoComplete(ComboBox &pCombo);

@@ -5,6 +5,9 @@
 #include "tests/support/ScriptedDesktop.h"
 #include "text/Text.h"
 
+#include <array>
+#include <memory>
+
 namespace {
 
 constexpr auto types = FieldKey::TypesText;
@@ -91,4 +94,27 @@ TEST_F(Combo, RefusesAnUnlistedText) {
     }
     myCombo.Clear();
     EXPECT_TRUE(myBox.MayLoseFocus()) << "an empty list takes any text";
+}
+
+TEST_F(Combo, ServesOneBoxAloneAndLeavesItToOthers) {
+    ComboBox &next = myBox.Parent().Add<ComboBox>("next");
+    next.AddItem("Apple");
+    std::array<std::unique_ptr<clsCombo>, 3> combos;
+    for (auto &combo : combos) {
+        combo = std::make_unique<clsCombo>();
+        combo->cb(next);
+        combo->Mode(1);
+    }
+    next.Text("x");
+    for (const std::size_t goes : {1, 0}) {
+        combos[goes].reset();
+        EXPECT_FALSE(next.MayLoseFocus()) << goes;
+    }
+    combos[2]->cb(myBox);
+    EXPECT_TRUE(next.MayLoseFocus()) << "nobody serves it any more";
+    myBox.Text("x");
+    myCombo.Mode(0);
+    EXPECT_FALSE(myBox.MayLoseFocus()) << "two serve it, and one refuses";
+    combos[2].reset();
+    EXPECT_TRUE(next.MayLoseFocus() && myBox.MayLoseFocus());
 }
