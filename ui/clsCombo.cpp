@@ -61,8 +61,11 @@ void clsCombo::AutoComplete(ComboBox &pCombo) {
     if (typed == 0) {
         return;
     }
-    // If no entry is found, the text stays as typed, with the caret at its end and nothing selected.
-    pCombo.ListIndex(pCombo.FindString(pCombo.Text()));
+    const int found = pCombo.FindString(pCombo.Text());
+    pCombo.ListIndex(found);
+    if (found < 0) {
+        return; // The user may be putting it right in the middle, so caret and selection stay there.
+    }
     pCombo.SelStart(typed);
     pCombo.SelLength(Utf16Length(pCombo.Text()) - typed);
 }

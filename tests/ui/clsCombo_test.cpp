@@ -6,7 +6,6 @@
 #include "text/Text.h"
 
 #include <array>
-#include <memory>
 
 namespace {
 
@@ -83,6 +82,16 @@ TEST_F(Combo, CompletesOnceForEachChange) {
     EXPECT_EQ(Release(), "Abacus/0+6");
 }
 
+TEST_F(Combo, LeavesTheCaretWhereAnUnlistedTextIsPutRight) {
+    myBox.UserEdits("Baana", 2); // the second letter typed in the middle
+    EXPECT_EQ(Release('A'), "Baana/2+0");
+    myBox.UserEdits("xBaana", 1);
+    myBox.UserSelects(2, 3); // before the key comes up
+    EXPECT_EQ(Release('X'), "xBaana/2+3");
+    myBox.UserEdits("Ban", 1);
+    EXPECT_EQ(Release('B'), "Banana/3+3") << "but what begins an entry is completed";
+}
+
 TEST_F(Combo, RefusesAnUnlistedText) {
     const std::tuple<std::int16_t, const char *, bool> cases[] = {
         {0, "x", true}, {-1, "x", true},    {1, "x", false},      {2, "x", false},   {3, "x", false},
@@ -99,22 +108,18 @@ TEST_F(Combo, RefusesAnUnlistedText) {
 TEST_F(Combo, ServesOneBoxAloneAndLeavesItToOthers) {
     ComboBox &next = myBox.Parent().Add<ComboBox>("next");
     next.AddItem("Apple");
-    std::array<std::unique_ptr<clsCombo>, 3> combos;
-    for (auto &combo : combos) {
-        combo = std::make_unique<clsCombo>();
-        combo->cb(next);
-        combo->Mode(1);
+    std::array<clsCombo, 2> others;
+    for (clsCombo &other : others) {
+        other.cb(next);
+        other.Mode(1);
     }
-    next.Text("x");
-    for (const std::size_t goes : {1, 0}) {
-        combos[goes].reset();
-        EXPECT_FALSE(next.MayLoseFocus()) << goes;
+    for (clsCombo &other : others) { // Whoever leaves first, the box goes on refusing for the others.
+        EXPECT_FALSE(next.MayLoseFocus());
+        other.cb(myBox);
     }
-    combos[2]->cb(myBox);
     EXPECT_TRUE(next.MayLoseFocus()) << "nobody serves it any more";
-    myBox.Text("x");
     myCombo.Mode(0);
-    EXPECT_FALSE(myBox.MayLoseFocus()) << "two serve it, and one refuses";
-    combos[2].reset();
-    EXPECT_TRUE(next.MayLoseFocus() && myBox.MayLoseFocus());
+    next.Text("x");
+    myBox.Text("x");
+    EXPECT_FALSE(myBox.MayLoseFocus()) << "two of three refuse";
 }
