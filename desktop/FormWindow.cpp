@@ -9,17 +9,11 @@
 #include <QKeyEvent>
 #include <QWindow>
 
-namespace {
-
-/// Milliseconds after the last change of size, when the size counts as settled.
-constexpr int settlingTime = 250;
-
-} // namespace
+#include <algorithm>
 
 FormWindow::FormWindow(Acts &pActs, Form &pForm) : myActs(pActs), myForm(pForm), myClient(new QWidget(this)) {
-    mySettling.setSingleShot(true);
-    mySettling.setInterval(settlingTime);
-    connect(&mySettling, &QTimer::timeout, this, [this] { Settled(); });
+    myChecking.setSingleShot(true);
+    connect(&myChecking, &QTimer::timeout, this, [this] { Check(); });
 
     auto bar = std::make_unique<QMenuBar>(this);
     bar->setNativeMenuBar(false);
@@ -78,7 +72,6 @@ void FormWindow::Sync() {
     if (myShownRevision != myForm.Revision()) {
         myShownRevision = myForm.Revision();
         ShowCaptionAndState();
-        ShowLeastSize();
         FollowForm();
     }
 }
@@ -129,7 +122,6 @@ bool FormWindow::event(QEvent *pEvent) {
     // The menu bar wants another height, for example because the system's font has changed.
     if (pEvent->type() == QEvent::LayoutRequest && myIsReady && myBar != nullptr &&
         myBar->height() != MenuHeight(width())) {
-        ShowLeastSize();
         if (State() == Form::stateNormal) {
             ResizeToForm();
         }

@@ -59,13 +59,13 @@ private:
     void ReportSize();
     int State() const;
     void ShowCaptionAndState();
-    void ShowLeastSize();
     /// The client area that the form wants, and the window around it, in pixels.
     QSize WantedClient() const;
     QSize WantedSize() const;
     void ResizeToForm();
     void FollowForm();
-    void Settled();
+    void Ask();
+    void Check();
 
     Acts &myActs;
     Form &myForm;
@@ -77,6 +77,7 @@ private:
     Qt::MouseButtons myDropped;       ///< buttons whose press was dropped and whose release is still to come
     bool myIsReady = false;
     int myShownRevision = 0;
-    bool myHasAskedAgain = false;
-    QTimer mySettling;
+    QSize myGiven;  ///< the size that the window system gave last
+    int myAsks = 0; ///< how often the window has asked for another since then
+    QTimer myChecking;
 };

@@ -11,6 +11,12 @@
 
 namespace {
 
+/// Milliseconds from asking for a size to seeing whether the window has it. Doubled each time: a window
+/// manager that still handles a drag, or a slow one, gets another chance.
+constexpr int firstCheck = 50;
+/// A window system may insist on a size of its own. Asking on and on would never end.
+constexpr int mostAsks = 4;
+
 /// pPixels in twips. Gives pNow back if it rounds to pPixels, so that rounding does not look like a change.
 float TwipsOf(int pPixels, float pNow) {
     return Pixels(pNow) == pPixels ? pNow : static_cast<float>(pPixels * twipsPerPixel);
@@ -23,15 +29,6 @@ int FormWindow::State() const {
         return Form::stateMinimized;
     }
     return isMaximized() || isFullScreen() ? Form::stateMaximized : Form::stateNormal;
-}
-
-void FormWindow::ShowLeastSize() {
-    const int width = Pixels(myForm.LeastClientWidth());
-    const int height = Pixels(myForm.LeastClientHeight());
-    if (width > 0 && height > 0) {
-        // A window manager that heeds it stops the drag of the frame there.
-        setMinimumSize(width, height + MenuHeight(width));
-    }
 }
 
 QSize FormWindow::WantedClient() const {
@@ -65,36 +62,45 @@ void FormWindow::ResizeToForm() {
 }
 
 void FormWindow::FollowForm() {
-    // While the window system gives sizes, an answer to each would confuse the two. Settled gives one.
-    if (State() == Form::stateNormal && myClient->size() != WantedClient() && !mySettling.isActive()) {
-        ResizeToForm();
+    if (State() != Form::stateNormal || myClient->size() == WantedClient()) {
+        return;
+    }
+    // During a drag of the frame the user goes on giving sizes, and a window manager may drop what it is
+    // asked.
+    if (isVisible() && IsMouseHeld()) {
+        myChecking.start(firstCheck);
+    } else if (myAsks == 0) {
+        Ask();
     }
 }
 
-void FormWindow::Settled() {
-    if (IsMouseHeld()) {
-        mySettling.start(); // A window manager may drop what it is asked during a drag.
-        return;
-    }
-    // A window system that insists on a size gives it again. Answering each time would never end.
+void FormWindow::Ask() {
+    ++myAsks;
+    ResizeToForm();
+    AskForSize(*this, WantedSize());
+    myChecking.start(firstCheck << (myAsks - 1));
+}
+
+void FormWindow::Check() {
     const QSize given = SizeOnScreen(*this).value_or(size());
-    const bool isOff = State() == Form::stateNormal && given != WantedSize();
-    if (isOff && !myHasAskedAgain) {
-        myHasAskedAgain = true;
-        mySettling.start();
-        ResizeToForm();
-        AskForSize(*this, WantedSize());
-        return;
+    if (State() != Form::stateNormal || given == WantedSize()) {
+        myAsks = 0;
+    } else if (IsMouseHeld()) {
+        myChecking.start(firstCheck);
+    } else if (myAsks < mostAsks) {
+        Ask();
     }
-    myHasAskedAgain = false;
 }
 
 void FormWindow::ReportSize() {
     if (!myIsReady) {
         return;
     }
-    mySettling.start();
     const QSize client = myClient->size();
+    if (client != WantedClient() && size() != myGiven) {
+        myGiven = size();
+        myAsks = 0;
+    }
     RunEvenUnderBox([&] {
         myForm.UserSizes(TwipsOf(client.width(), myForm.ClientWidth()),
                          TwipsOf(client.height(), myForm.ClientHeight()), State());

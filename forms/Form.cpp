@@ -45,12 +45,6 @@ void Form::ClientSize(float pWidth, float pHeight) {
     myHeight = pHeight + frameHeightTwips;
 }
 
-void Form::LeastSize(float pWidth, float pHeight) {
-    myLeastWidth = pWidth;
-    myLeastHeight = pHeight;
-    ++myRevision;
-}
-
 void Form::WindowState(int pState) {
     myWindowState = pState;
     ++myRevision;

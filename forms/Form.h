@@ -48,11 +48,6 @@ public:
     /// Sets the size by the client area. Raises nothing.
     void ClientSize(float pWidth, float pHeight);
 
-    /// The outer size in twips below which a user should not be able to drag the window; 0 for no limit.
-    void LeastSize(float pWidth, float pHeight);
-    float LeastClientWidth() const { return myLeastWidth - frameWidthTwips; }
-    float LeastClientHeight() const { return myLeastHeight - frameHeightTwips; }
-
     /// One of the three states above.
     int WindowState() const { return myWindowState; }
     void WindowState(int pState);
@@ -95,8 +90,6 @@ private:
     BorderStyle myBorder = BorderStyle::Sizable;
     float myWidth = 0;
     float myHeight = 0;
-    float myLeastWidth = 0;
-    float myLeastHeight = 0;
     int myWindowState = stateNormal;
     bool myIsLoaded = false;
     bool myIsShown = false;

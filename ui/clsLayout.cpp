@@ -21,22 +21,6 @@ void Place(const clsControl &pRecord, std::int32_t pGrowthX, std::int32_t pGrowt
 
 } // namespace
 
-void clsLayout::MinWidth(float Twips) {
-    myMinWidth = Integer32(Twips).value_or(0);
-    TellForm();
-}
-
-void clsLayout::MinHeight(float Twips) {
-    myMinHeight = Integer32(Twips).value_or(0);
-    TellForm();
-}
-
-void clsLayout::TellForm() const {
-    if (myFrm != nullptr) {
-        myFrm->LeastSize(MinWidth(), MinHeight());
-    }
-}
-
 void clsLayout::SetLayout(Form &frm) {
     myFrm = &frm;
     MinWidth(frm.Width());

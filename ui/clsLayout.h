@@ -3,6 +3,7 @@
 /// Tag. The string holds any of the keys "X=", "Y=", "W=" and "H=", separated by blanks. Each key gives the
 /// share of the form's growth by which the control moves or stretches: a whole number, or a fraction such as
 /// "25/100". Knows nothing of the application.
+#include "text/Numbers.h"
 #include "ui/clsControl.h"
 
 #include <cstdint>
@@ -18,10 +19,10 @@ class clsLayout {
 public:
     /// The least outer width of the form in twips, from which growth is counted. Rounded to the nearest whole
     /// number, an exact half to the even one.
-    void MinWidth(float Twips);
+    void MinWidth(float Twips) { myMinWidth = Integer32(Twips).value_or(0); }
     float MinWidth() const { return static_cast<float>(myMinWidth); }
     /// The same for the height.
-    void MinHeight(float Twips);
+    void MinHeight(float Twips) { myMinHeight = Integer32(Twips).value_or(0); }
     float MinHeight() const { return static_cast<float>(myMinHeight); }
 
     /// Takes the present size of frm as its least size, and registers all its controls by their Tag, except
@@ -40,7 +41,6 @@ public:
 private:
     static std::optional<double> GetOpt(std::string_view pKey, std::string_view pOpts);
     void EnforceMinimum();
-    void TellForm() const;
 
     Form *myFrm = nullptr;
     std::vector<clsControl> myCtrls;

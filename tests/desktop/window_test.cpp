@@ -189,10 +189,11 @@ TEST_F(Window, snapsBackToItsMinimumEachTime) {
     window->resize(atStart + QSize(90, 60));
     EXPECT_EQ(form.ClientWidth(), 6000 + 90 * 15);
     EXPECT_EQ(form.ClientHeight(), 3000 + 60 * 15);
-    EXPECT_EQ(window->minimumSize(), atStart) << "what the window system is told";
+    EXPECT_EQ(window->minimumSize(), QSize(0, 0)) << "nothing limits the drag";
     for (int drag = 0; drag < 2; ++drag) {
-        window->windowHandle()->resize(300, 120); // Not all window systems heed it.
-        EXPECT_TRUE(QTest::qWaitFor([&] { return window->size() == atStart; })) << drag;
+        window->windowHandle()->resize(300 + drag, 120);
+        QApplication::processEvents();
+        EXPECT_EQ(window->size(), atStart) << "at once";
         EXPECT_EQ(form.ClientWidth(), 6000);
     }
 }
@@ -208,7 +209,7 @@ TEST_F(Window, doesNotFightAWindowSystemThatInsists) {
         }
     });
     window->windowHandle()->resize(own);
-    EXPECT_FALSE(QTest::qWaitFor([&] { return asked > 2; }, 1000)) << "asked again and again";
+    EXPECT_FALSE(QTest::qWaitFor([&] { return asked > 4; }, 1000)) << "asked again and again";
     EXPECT_GE(asked, 1);
     EXPECT_EQ(window->size(), own);
 }
