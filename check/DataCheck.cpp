@@ -1,274 +1,280 @@
-// The frame of the check: loading, the first line, and what can be said only at the end.
 #include "check/DataCheck.h"
 
-#include "text/Numbers.h"
+#include "data/modGetWords.h"
 #include "text/Text.h"
 
 #include <algorithm>
+#include <initializer_list>
+#include <map>
+#include <utility>
 
 namespace {
 
-constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
-
-/// Whether pText is made of numbers only, and so isn't a record.
-bool IsSizeLine(std::string_view pText) {
-    return pText.find_first_not_of("0123456789+-.,;\t \"") == std::string_view::npos;
-}
+using enum Fault;
 
 std::string NotRead(std::size_t pLines) {
     return Counted(pLines, "line") + (pLines == 1 ? " is" : " are") + " not read";
 }
 
-bool IsByteOrderMark(std::string_view pText) {
-    return pText.starts_with(byteOrderMark);
-}
+/// The values of a table that their columns don't list, although they insist on listed ones.
+class UnlistedValues {
+public:
+    explicit UnlistedValues(const WantedColumns &pWanted) : myWanted(pWanted), myFound(pWanted.size()) {}
 
-/// pFault without the file's name, which stands in front of each finding.
-std::string WithoutName(const std::string &pFault, const std::string &pFile) {
-    const std::string name = "File " + pFile;
-    return pFault.starts_with(name) ? "the file" + pFault.substr(name.size()) : pFault;
-}
+    /// Looks at pRecord. pOrder says where each wanted column stands in it; empty when they stand as wanted.
+    void LookAt(const MeantRecord &pRecord, const std::vector<std::size_t> &pOrder) {
+        const FaultSet &faults = pRecord.faults;
+        if (faults.Has(OpenQuote) || faults.Has(TextAfterQuote) || faults.Has(Surplus)) {
+            return; // Nobody can tell which value is whose.
+        }
+        for (std::size_t col = 0; col < myWanted.size(); ++col) {
+            const std::string_view value =
+                pRecord.cells(static_cast<int>(pOrder.empty() ? col : pOrder[col]) + 1);
+            if (!myWanted[col].values.empty() && !myWanted[col].values.contains(LCase(value))) {
+                Tally &found = myFound[col][std::string(value)];
+                found.first = found.lines == 0 ? pRecord.line : found.first;
+                ++found.lines;
+            }
+        }
+    }
+
+    /// Adds a note for each value, at the first line that has it.
+    void Report(Findings &pFindings) const {
+        for (std::size_t col = 0; col < myFound.size(); ++col) {
+            for (const auto &[value, found] : myFound[col]) {
+                pFindings.Add(found.first, NotListed,
+                              {Quoted(myWanted[col].title), Quoted(value), Counted(found.lines, "record")});
+            }
+        }
+    }
+
+private:
+    const WantedColumns &myWanted;
+    std::vector<std::map<std::string, Tally>> myFound; ///< by column and value
+};
+
+/// Walks over the lines, as the editor reads them one after the other.
+class Walk {
+public:
+    Walk(const MeantTable &pMeant, const EditorTable &pEditor, const WantedColumns &pWanted,
+         Findings &pFindings)
+        : myMeant(pMeant), myEditor(pEditor), myWanted(pWanted), myFindings(pFindings),
+          myIsDat(pEditor.fmt == clsDatFile::fmtDat), myUnlisted(pWanted) {}
+
+    void Run() {
+        LookAtHead();
+        for (const MeantRecord &line : myMeant.lines) {
+            if (myRecords < myMeant.records) { // Blank lines matter only where records follow.
+                LookAtLine(line);
+            }
+        }
+        ReportLineEnds();
+        if (myIsDat) {
+            ReportAnnounced();
+        }
+        myUnlisted.Report(myFindings);
+        RequireAllShown();
+    }
+
+private:
+    void LookAtHead() {
+        const MeantRecord &head = myMeant.head;
+        LookAtBytes(head);
+        myIsReading = !head.faults.Has(LfAlone);
+        if (head.cells.Count() == 0) {
+            return;
+        }
+        if (head.faults.Has(CrInQuotes)) {
+            Stop(head.line, CrInQuotes, {"header line, so its rest is taken for the first record"});
+        }
+        if (head.faults.Has(OpenQuote)) {
+            Stop(head.line, OpenQuote, {}, ", so nobody can tell where the header line ends");
+        }
+        ReportSeparator(head.line);
+        CompareTitles();
+    }
+
+    void CompareTitles() {
+        const std::vector<std::string> wanted = TitlesOf(myWanted);
+        std::vector<std::string> titles = TextsOf(myMeant.head.cells);
+        if (!myMeant.order.empty()) {
+            myFindings.Add(myMeant.head.line, TitleOrder);
+            return;
+        }
+        titles.resize(std::max(titles.size(), wanted.size()));
+        for (std::size_t col = 0; col < titles.size() && !wanted.empty(); ++col) {
+            const std::string other = col < wanted.size() ? Quoted(wanted[col]) : "none";
+            if (col >= wanted.size() || titles[col] != wanted[col]) {
+                myFindings.Add(myMeant.head.line, Title,
+                               {std::to_string(col + 1), Quoted(titles[col]), other});
+            }
+        }
+    }
+
+    void ReportSeparator(std::size_t pLine) {
+        if (myMeant.separator != ',') {
+            Stop(pLine, Separator, {myMeant.separator == ';' ? "semicolons" : "tabs"});
+        }
+    }
+
+    void LookAtLine(const MeantRecord &pLine) {
+        myIsReading = myIsReading && !pLine.faults.Has(LfAlone);
+        if (pLine.faults.Has(BlankLine)) {
+            EndTable(pLine.line, BlankLine);
+            return;
+        }
+        if (myRecords == 0) {
+            SettleFields(pLine);
+        }
+        LookAtBytes(pLine);
+        LookAtFields(pLine);
+        myUnlisted.LookAt(pLine, myMeant.order);
+        if (pLine.faults.Has(ManyRecords) && !myIsDat) {
+            myFindings.Add(pLine.line, ManyRecords);
+        }
+        const bool isAnnounced = !myIsDat || myRecords < myMeant.announcedRows;
+        myFirstUnannounced = isAnnounced || myFirstUnannounced > 0 ? myFirstUnannounced : pLine.line;
+        ++myRecords;
+        myIsReading = myIsReading && (!myIsDat || myRecords < myMeant.announcedRows);
+    }
+
+    /// Settles how many fields a record should have, by the first one.
+    void SettleFields(const MeantRecord &pFirst) {
+        const std::size_t found = myIsDat ? myMeant.announcedCols : pFirst.fields;
+        const auto titles = static_cast<std::size_t>(myMeant.head.cells.Count());
+        myFields = myWanted.empty() && found > 0 ? found : myMeant.cols;
+        if (titles == 0) {
+            ReportSeparator(pFirst.line);
+        } else if (myWanted.empty() && found > 0 && found != titles) {
+            myFindings.Add(1, TitleCount, {Counted(titles, "field"), std::to_string(found)});
+        }
+        if (!myIsDat && found > 0 && found != myFields) {
+            Stop(pFirst.line, WrongColumns,
+                 {"record has " + Counted(found, "field"), Counted(myFields, "column")});
+        }
+    }
+
+    void LookAtBytes(const MeantRecord &pLine) {
+        for (const Fault fault : {Blanks, Utf16, NotUtf8, Nul}) {
+            if (pLine.faults.Has(fault)) {
+                myFindings.Add(pLine.line, fault);
+            }
+        }
+        if (pLine.faults.Has(ByteOrderMark)) {
+            const bool isInTitles = myEditor.fmt == clsDatFile::fmtCsvWithHeaders;
+            myFindings.Add(1, ByteOrderMark,
+                           {isInTitles ? "before the first title; it is lost with the header line"
+                                       : "at the start; the editor takes it for part of the text"});
+        }
+    }
+
+    /// Tells whether the record would end the table, and why.
+    void LookAtFields(const MeantRecord &pRecord) {
+        if (pRecord.faults.Has(CrInQuotes)) {
+            EndTable(pRecord.line, CrInQuotes, {"line"});
+        } else if (pRecord.fields == 0) {
+            constexpr Fault causes[] = {OpenQuote, TextAfterQuote, CommaAtEnd, MarkBeforeQuote};
+            EndTable(pRecord.line,
+                     *std::ranges::find_if(causes, [&](Fault pFault) { return pRecord.faults.Has(pFault); }));
+        } else if (pRecord.fields > modGetWords::mostWords) {
+            Stop(pRecord.line, ManyColumns);
+        } else if (pRecord.fields != myFields && (myIsDat || myRecords > 0)) {
+            EndTable(pRecord.line, FieldCount, {Counted(pRecord.fields, "field"), std::to_string(myFields)});
+        }
+    }
+
+    using Texts = std::initializer_list<std::string>;
+
+    /// The editor reads no more as it was meant, because of pFault.
+    void Stop(std::size_t pLine, Fault pFault, Texts pTexts = {}, const std::string &pRest = "") {
+        myFindings.Add(pLine, pFault, pTexts, pRest);
+        myIsReading = false;
+    }
+
+    /// The same, where pFault would end the editor's table in any case.
+    void EndTable(std::size_t pLine, Fault pFault, Texts pTexts = {}) {
+        if (myRecords == 0 && !myIsDat) {
+            Stop(pLine, FirstLine, {Filled(RowOf(pFault).finding, pTexts)});
+        } else if (myIsReading) {
+            // A .dat keeps the number of records that it announces.
+            const bool areEmpty = std::cmp_greater(myEditor.table.Rows(), myEditor.read);
+            const std::string ends = areEmpty ? ", so the editor has empty records from here on; "
+                                              : ", so the table ends before it; ";
+            Stop(pLine, pFault, pTexts, ends + NotRead(myMeant.records - myRecords));
+        } else {
+            Stop(pLine, pFault, pTexts, ", which would end the table too");
+        }
+    }
+
+    void ReportLineEnds() {
+        const Tally tally = TallyOf(myMeant, LfAlone);
+        const std::size_t lines = myMeant.lines.size() + (myMeant.head.line > 0 ? 1 : 0);
+        const FaultSet &last = myMeant.lines.empty() ? myMeant.head.faults : myMeant.lines.back().faults;
+        const bool areAll =
+            tally.lines + (last.Has(LfAlone) ? 0 : 1) == lines; // The last line may have no end.
+        const std::string more = tally.lines > 1 ? " and " + std::to_string(tally.lines - 1) + " more" : "";
+        if (tally.lines > 0) {
+            myFindings.Add(
+                tally.first, LfAlone,
+                {areAll ? "the file's " + Counted(tally.lines, "line") + ", so the editor reads them as one"
+                        : "this line" + more + ", and the editor reads such a line and the next as one"});
+        }
+    }
+
+    /// Compares the records with what the first line of a .dat file announces.
+    void ReportAnnounced() {
+        const clsDatFile &table = myEditor.table;
+        const std::size_t rows = myMeant.announcedRows;
+        const std::size_t cols = myMeant.announcedCols;
+        const std::string records = Counted(rows, "record");
+        if (!table.Fault().empty() && table.WasRead() && TallyOf(myMeant, LfAlone).lines == 0) {
+            myFindings.Add(1, NotTaken,
+                           {table.Cause(), rows == 0 ? " Is it CSV? Then say /csv or /csvh." : ""});
+        } else if (cols == 0) {
+            myFindings.Add(1, NoSize,
+                           {myMeant.announcesNumbers
+                                ? "announces what no table can have"
+                                : "isn't two numbers, of the records and of the columns"});
+        } else if (rows < myRecords) {
+            myFindings.Add(myFirstUnannounced, Announced,
+                           {records, "so from here on " + NotRead(myRecords - rows)});
+        } else if (rows > myRecords) {
+            myFindings.Add(1, Announced, {records, "but there are " + std::to_string(myRecords)});
+        }
+        if (!myWanted.empty() && cols > 0 && cols != myWanted.size()) {
+            myFindings.Add(1, WrongColumns,
+                           {"line announces " + Counted(cols, "column"), std::to_string(myWanted.size())});
+        }
+    }
+
+    /// Whatever the walk has missed: the editor has the last word.
+    void RequireAllShown() {
+        const bool isWhole = myEditor.shown == myMeant.records && myEditor.lastMessage.empty();
+        if (myFindings.Of(Kind::Lost) == 0 && (!isWhole || !myEditor.table.Fault().empty())) {
+            myFindings.Add(1, ReadOtherwise,
+                           {!myEditor.lastMessage.empty() ? "ends with the message " + myEditor.lastMessage
+                            : !myEditor.table.WasRead()   ? "can't read the file: " + myEditor.table.Cause()
+                                                          : "reads these lines otherwise"});
+        }
+    }
+
+    const MeantTable &myMeant;
+    const EditorTable &myEditor;
+    const WantedColumns &myWanted;
+    Findings &myFindings;
+    bool myIsDat; ///< the file has the .dat form
+    UnlistedValues myUnlisted;
+
+    // As far as the walk has come.
+    std::size_t myRecords = 0;
+    std::size_t myFields = 0;           ///< that the editor expects in a record
+    std::size_t myFirstUnannounced = 0; ///< the line of the first record beyond the announced ones
+    bool myIsReading = true;            ///< the editor has read all lines so far as they were meant
+};
 
 } // namespace
 
-DataCheck::DataCheck(std::int16_t pFmt, const WantedColumns &pWanted, Findings &pFindings, CleanCopy *pCopy)
-    : myFmt(pFmt), myWanted(pWanted), myFindings(pFindings), myCopy(pCopy), myLines(pFindings.File()),
-      myUnlisted(pWanted) {}
-
-void DataCheck::Run() {
-    LoadAsEditor();
-    if (myFmt == clsDatFile::fmtDat) {
-        TakeSizeLine();
-    } else if (myFmt == clsDatFile::fmtCsvWithHeaders) {
-        TakeHeader();
-    }
-    while (myLines.Next()) {
-        TakeLine();
-    }
-    if (!Fault().empty()) {
-        return;
-    }
-    myLineEnds.Report(myFindings, myLines.Count());
-    ReportSize();
-    ReportStop();
-    myUnlisted.Report(myFindings);
-    RequireAllShown();
-    if (myCopy != nullptr && myBlanks > 0) {
-        myCopy->Note(CleanCopy::Act::LeaveOutBlankLines, 1, myBlanks);
-    }
-    if (myCopy != nullptr && myLineEnds.LfAlone() > 0) {
-        myCopy->Note(CleanCopy::Act::EndLines, myLineEnds.FirstLf(), myLineEnds.LfAlone());
-    }
-}
-
-void DataCheck::LoadAsEditor() {
-    myTable.FileName(myFindings.File());
-    myTable.Fmt(myFmt);
-    myTable.Headers(TitlesOf(myWanted));
-    try {
-        myTable.Load();
-    } catch (const EditorEnded &end) {
-        myLastMessage = end.message;
-        myEndsProgram = true;
-        return;
-    }
-    auto rows = static_cast<std::int16_t>(myTable.WasRead() && myTable.Cols() > 0 ? myTable.Rows() : 0);
-    // The rows that the .dat reader did not get to have no cells.
-    while (rows > 0 && myTable.Row(static_cast<std::int16_t>(rows - 1)).Count() == 0) {
-        --rows;
-    }
-    myRowsRead = static_cast<std::size_t>(rows);
-}
-
-std::size_t DataCheck::Shown() const {
-    const bool isRefused = !myWanted.empty() && std::cmp_not_equal(myTable.Cols(), myWanted.size());
-    return myEndsProgram || isRefused ? 0 : myRowsRead;
-}
-
-/// The text of pLine. Reports what the first bytes of the file say of its encoding.
-std::string_view DataCheck::WithoutByteOrderMark(const MeantLine &pLine) {
-    if (pLine.number != 1) {
-        return pLine.text;
-    }
-    if (pLine.text.starts_with("\xFF\xFE") || pLine.text.starts_with("\xFE\xFF")) {
-        const std::string why = "the file is in UTF-16, and the editor takes it for UTF-8";
-        myFindings.Add(Kind::Lost, 1, Sort::NotUtf8, why);
-        if (myCopy != nullptr) {
-            myCopy->Refuse(1, why);
-        }
-    }
-    if (!IsByteOrderMark(pLine.text)) {
-        return pLine.text;
-    }
-    const bool isInHeader = myFmt == clsDatFile::fmtCsvWithHeaders;
-    myFindings.Add(Kind::Changed, 1, Sort::ByteOrderMark,
-                   isInHeader
-                       ? "a byte-order mark stands before the first title; it is lost with the header line"
-                       : "a byte-order mark stands at the start; the editor takes it for part of the text");
-    if (myCopy != nullptr) {
-        myCopy->Note(CleanCopy::Act::DropByteOrderMark, 1);
-    }
-    return pLine.text.substr(byteOrderMark.size());
-}
-
-void DataCheck::TakeSizeLine() {
-    if (!myLines.Next()) {
-        return;
-    }
-    const MeantLine &line = myLines.Line();
-    const std::string_view text = WithoutByteOrderMark(line);
-    CountLineEnd(line);
-    const std::size_t comma = text.find(',');
-    if (myCopy != nullptr && !IsSizeLine(text)) {
-        myCopy->Refuse(line.number, "the first line isn't the numbers of records and columns");
-    }
-    myHasNumbers = comma != std::string_view::npos && IsSizeLine(text);
-    if (line.endsInLf && myHasNumbers) {
-        // The editor makes nothing of it. As it was meant, it may still be right.
-        const std::int16_t rows = WholeTextInteger(text.substr(0, comma)).value_or(-1);
-        const std::int16_t cols = WholeTextInteger(text.substr(comma + 1)).value_or(0);
-        if (rows >= 0 && cols > 0) {
-            mySize = {static_cast<std::size_t>(rows), static_cast<std::size_t>(cols)};
-        }
-    } else if (myTable.Cols() > 0 && myTable.Rows() >= 0) {
-        mySize = {static_cast<std::size_t>(myTable.Rows()), static_cast<std::size_t>(myTable.Cols())};
-    }
-}
-
-void DataCheck::TakeHeader() {
-    if (!myLines.Next()) {
-        return;
-    }
-    const std::string_view text = WithoutByteOrderMark(myLines.Line());
-    mySeparator = SeparatorOf(text, myWanted.size());
-    myCells.Begin(mySeparator);
-    myCells.Take(text);
-    myIsUnclosed = myCells.IsOpen() && !myLines.Join(myCells);
-    myCells.End();
-    const MeantLine &line = myLines.Line();
-    CountLineEnd(line);
-    LookAtBytes(line);
-    myHasCells = true;
-    LookAtBlanks(line);
-    if (line.text.find('\r') != std::string_view::npos) {
-        myFindings.Add(
-            Kind::Lost, line.number, Sort::CrInQuotes,
-            "a line end inside quotes ends the header line, so its rest is taken for the first record");
-        myIsReading = false;
-    }
-    if (myIsUnclosed) {
-        myFindings.Add(Kind::Lost, line.number, Sort::OpenQuote,
-                       "a quote is left open, so nobody can tell where the header line ends");
-        myIsReading = false;
-    }
-    ReportSeparator();
-    myTitles = myCells.All().size();
-    if (!myWanted.empty()) {
-        CompareTitles(line);
-    }
-    if (myCopy != nullptr) {
-        if (IsMalformed()) {
-            myCopy->Refuse(line.number, "the quotes of the titles don't match");
-        }
-        myCopy->Header(line.number, myCells);
-    }
-}
-
-void DataCheck::ReportSeparator() {
-    if (mySeparator != ',') {
-        const std::string marks = mySeparator == ';' ? "semicolons" : "tabs";
-        myFindings.Add(Kind::Lost, myLines.Line().number, Sort::Separator,
-                       marks + " separate the fields, and the editor takes them for text");
-        myIsReading = false;
-    }
-}
-
-void DataCheck::CompareTitles(const MeantLine &pLine) {
-    const std::vector<std::string> wanted = TitlesOf(myWanted);
-    std::vector<std::string> titles;
-    for (const std::string &title : myCells.All()) {
-        titles.emplace_back(Trim(title));
-    }
-    if (titles == wanted) {
-        return;
-    }
-    myOrder = OrderOf(myWanted, titles);
-    if (!myOrder.empty()) {
-        myFindings.Add(
-            Kind::Changed, pLine.number, Sort::Titles,
-            "the titles are the specification's in another order; the specification's order would be "
-            "written over columns that stay where they are");
-        return;
-    }
-    titles.resize(std::max(titles.size(), wanted.size()));
-    for (std::size_t col = 0; col < titles.size(); ++col) {
-        const std::string other = col < wanted.size() ? Quoted(wanted[col]) : "none";
-        if (col >= wanted.size() || titles[col] != wanted[col]) {
-            myFindings.Add(Kind::Changed, pLine.number, Sort::Titles,
-                           "the title of column " + std::to_string(col + 1) + " is " + Quoted(titles[col]) +
-                               ", and the specification's, which would be written, is " + other);
-        }
-    }
-}
-
-void DataCheck::ReportSize() {
-    if (myFmt != clsDatFile::fmtDat) {
-        if (myFirstTooMany > 0) {
-            myFindings.Add(Kind::Lost, myFirstTooMany, Sort::Limit,
-                           "a table holds at most " + std::to_string(clsDatFile::mostRows) +
-                               " records, and this is one more, so the editor reads none");
-        }
-        return;
-    }
-    const std::string announces = "the first line announces " + Counted(mySize.rows, "record");
-    if (myLineEnds.LfAlone() == 0 && myTable.WasRead() && !myTable.Fault().empty()) {
-        const std::string askForForm = mySize.rows == 0 ? " Is it CSV? Then say /csv or /csvh." : "";
-        myFindings.Add(Kind::Lost, 1, Sort::Size,
-                       WithoutName(myTable.Fault(), myFindings.File()) + askForForm);
-    } else if (mySize.cols == 0) {
-        const std::string what = myHasNumbers ? "announces what no table can have"
-                                              : "isn't two numbers, of the records and of the columns";
-        myFindings.Add(Kind::Lost, 1, Sort::Size,
-                       "the first line " + what +
-                           ", so the editor refuses the file. Is it CSV? Then say /csv or /csvh.");
-    } else if (mySize.rows < myRecords) {
-        myFindings.Add(Kind::Lost, myFirstUnannounced, Sort::Size,
-                       announces + ", so from here on " + NotRead(myRecords - mySize.rows));
-    } else if (mySize.rows > myRecords) {
-        myFindings.Add(Kind::Lost, 1, Sort::Size, announces + ", but there are " + std::to_string(myRecords));
-    }
-    if (!myWanted.empty() && mySize.cols > 0 && mySize.cols != myWanted.size()) {
-        myFindings.Add(Kind::Lost, 1, Sort::Columns,
-                       "the first line announces " + Counted(mySize.cols, "column") +
-                           " and the specification has " + std::to_string(myWanted.size()) +
-                           ", so the editor refuses the file");
-    }
-    if (myCopy != nullptr && (mySize.rows != myRecords || mySize.cols != myCopy->Cols())) {
-        myCopy->Note(CleanCopy::Act::CountRecords, 1);
-    }
-}
-
-void DataCheck::ReportStop() {
-    if (myStop) {
-        const std::size_t lines = myRecords - myStop->recordsBefore;
-        // A .dat keeps the number of records that it announces.
-        const bool areEmpty = std::cmp_greater(myTable.Rows(), myRowsRead);
-        const std::string ends =
-            areEmpty ? ", so the editor has empty records from here on; " : ", so the table ends before it; ";
-        myFindings.Add(Kind::Lost, myStop->line, myStop->sort, myStop->why + ends + NotRead(lines));
-    }
-}
-
-/// Whatever the walk over the lines has missed: the editor has the last word.
-void DataCheck::RequireAllShown() {
-    const bool isWhole = Shown() == myRecords && !myEndsProgram && myTable.Fault().empty();
-    if (isWhole || myFindings.Of(Kind::Lost) > 0) {
-        return;
-    }
-    const std::string fault = WithoutName(myTable.Fault(), myFindings.File());
-    const std::string ends = "the editor ends with the message " + myLastMessage;
-    myFindings.Add(Kind::Lost, 1, Sort::FirstLine,
-                   myEndsProgram    ? ends
-                   : !fault.empty() ? fault
-                                    : "the editor reads these lines otherwise");
+void CompareWithEditor(const MeantTable &pMeant, const EditorTable &pEditor, const WantedColumns &pWanted,
+                       Findings &pFindings) {
+    Walk(pMeant, pEditor, pWanted, pFindings).Run();
 }

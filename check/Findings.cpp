@@ -1,12 +1,11 @@
 #include "check/Findings.h"
 
 #include <algorithm>
-#include <iterator>
 #include <ostream>
 
 namespace {
 
-constexpr std::size_t mostShown = 20; // of one sort
+constexpr std::size_t mostShown = 20; // of one fault
 
 const char *Word(Kind pKind) {
     switch (pKind) {
@@ -30,37 +29,33 @@ std::string OnOneLine(std::string pText) {
 
 } // namespace
 
-void Findings::Add(Kind pKind, std::size_t pLine, Sort pSort, const std::string &pText) {
-    const Kind kind = pKind == Kind::Changed && !myIsSaved ? Kind::Note : pKind;
-    ++myOfKind[static_cast<std::size_t>(kind)];
-    OfOneSort &sort = myFindings[static_cast<std::size_t>(pSort)];
-    if (++sort.count > mostShown && pLine >= sort.first.rbegin()->first) {
-        return;
-    }
-    sort.first.emplace(pLine, Finding{kind, OnOneLine(pText)});
-    if (sort.first.size() > mostShown) {
-        sort.first.erase(std::prev(sort.first.end()));
+Kind Findings::KindOf(Fault pFault) const {
+    const Kind kind = RowOf(pFault).kind;
+    return kind == Kind::Changed && !myIsSaved ? Kind::Note : kind;
+}
+
+void Findings::Add(std::size_t pLine, Fault pFault, std::initializer_list<std::string> pTexts,
+                   const std::string &pRest) {
+    ++myOfKind[static_cast<std::size_t>(KindOf(pFault))];
+    OfOneFault &found = myFound[static_cast<std::size_t>(pFault)];
+    if (++found.count <= mostShown || pLine < found.lastLine) {
+        found.lastLine = std::max(found.lastLine, pLine);
+        myTexts.emplace(std::pair(pLine, pFault), OnOneLine(Filled(RowOf(pFault).finding, pTexts) + pRest));
     }
 }
 
 void Findings::Print(std::ostream &pTo) const {
-    std::multimap<std::size_t, std::string> texts;
-    for (const OfOneSort &sort : myFindings) {
-        for (const auto &[line, finding] : sort.first) {
-            const std::string word = std::string(": ") + Word(finding.kind) + ": ";
-            std::string text = myFile + ':' + std::to_string(line) + word + finding.text + '\n';
-            if (&finding == &sort.first.rbegin()->second && sort.count > mostShown) {
-                text +=
-                    myFile + word + "and " + std::to_string(sort.count - mostShown) + " more of this sort\n";
-            }
-            texts.emplace(line, std::move(text));
+    std::array<std::size_t, faultCount> printed{};
+    for (const auto &[place, text] : myTexts) {
+        const auto &[line, fault] = place;
+        const std::string word = std::string(": ") + Word(KindOf(fault)) + ": ";
+        const std::size_t count = Of(fault);
+        std::size_t &number = printed[static_cast<std::size_t>(fault)];
+        if (++number <= mostShown) {
+            pTo << myFile << ':' << line << word << text << '\n';
+        }
+        if (number == mostShown && count > mostShown) {
+            pTo << myFile << word << "and " << count - mostShown << " more of this sort\n";
         }
     }
-    for (const auto &[line, text] : texts) {
-        pTo << text;
-    }
-}
-
-std::string Counted(std::size_t pCount, const std::string &pNoun) {
-    return std::to_string(pCount) + " " + pNoun + (pCount == 1 ? "" : "s");
 }

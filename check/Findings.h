@@ -1,45 +1,12 @@
 #pragma once
 /// What the checker has to say about one file: its findings, printed in the order of lines, one a line. Of
-/// one sort only the first ones are printed; the others are counted.
+/// one fault only the first ones are printed; the others are counted.
+#include "check/Faults.h"
+
 #include <array>
-#include <cstddef>
 #include <iosfwd>
 #include <map>
-#include <string>
 #include <utility>
-
-enum class Kind {
-    Lost,    ///< the editor would not show it, or would stop or refuse
-    Changed, ///< it would come back different when saved
-    Note,    ///< worth knowing, nothing is lost
-};
-
-/// What findings are about. Those of one sort are limited together.
-enum class Sort {
-    LineEnds,
-    Separator,
-    Size,
-    Columns,
-    FirstLine,
-    BlankLine,
-    CommaAtEnd,
-    OpenQuote,
-    TextAfterQuote,
-    CrInQuotes,
-    FieldCount,
-    Limit,
-    Blanks,
-    ByteOrderMark,
-    Titles,
-    NotUtf8,
-    Nul,
-    NotListed,
-    Specification,
-    ListFile,
-    Entry,
-    Copy,
-    Count, ///< how many there are
-};
 
 class Findings {
 public:
@@ -48,31 +15,29 @@ public:
     explicit Findings(std::string pFile, bool pIsSaved = true)
         : myFile(std::move(pFile)), myIsSaved(pIsSaved) {}
 
-    /// Adds a finding of line pLine, from 1. Control characters in pText are shown as question marks.
-    void Add(Kind pKind, std::size_t pLine, Sort pSort, const std::string &pText);
+    /// Adds pFault in line pLine, from 1. pTexts fill the gaps of its words, pRest comes after them. Control
+    /// characters are shown as question marks.
+    void Add(std::size_t pLine, Fault pFault, std::initializer_list<std::string> pTexts = {},
+             const std::string &pRest = "");
 
-    /// How many there are, of one kind or of one sort.
+    /// How many there are, of one kind or of one fault.
     std::size_t Of(Kind pKind) const { return myOfKind[static_cast<std::size_t>(pKind)]; }
-    std::size_t Of(Sort pSort) const { return myFindings[static_cast<std::size_t>(pSort)].count; }
+    std::size_t Of(Fault pFault) const { return myFound[static_cast<std::size_t>(pFault)].count; }
 
-    const std::string &File() const { return myFile; }
     void Print(std::ostream &pTo) const;
 
 private:
-    struct Finding {
-        Kind kind;
-        std::string text;
-    };
-    struct OfOneSort {
-        std::multimap<std::size_t, Finding> first; ///< by line; no more than are printed
+    struct OfOneFault {
         std::size_t count = 0;
+        std::size_t lastLine = 0; ///< of those kept
     };
+
+    Kind KindOf(Fault pFault) const;
 
     std::string myFile;
     bool myIsSaved;
     std::array<std::size_t, 3> myOfKind{};
-    std::array<OfOneSort, static_cast<std::size_t>(Sort::Count)> myFindings;
+    std::array<OfOneFault, faultCount> myFound;
+    /// By line and fault. More are kept than printed only if later ones are in lines before.
+    std::multimap<std::pair<std::size_t, Fault>, std::string> myTexts;
 };
-
-/// "1 line" and "2 lines", of pNoun "line".
-std::string Counted(std::size_t pCount, const std::string &pNoun);

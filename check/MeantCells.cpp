@@ -4,104 +4,102 @@
 
 void MeantCells::Begin(char pSeparator) {
     mySeparator = pSeparator;
+    myAt = 0;
     myState = State::Before;
-    myWasQuote = false;
     myHasBlanksAtEnds = false;
-    myCell.clear();
+    myCell = {};
     myCells.clear();
 }
 
-void MeantCells::Take(std::string_view pPart) {
-    for (const char character : pPart) {
-        Step(character);
+void MeantCells::Take(std::string_view pText) {
+    myText = pText;
+    for (; myAt < pText.size(); ++myAt) {
+        const char character = pText[myAt];
+        switch (myState) {
+        case State::Before:
+            if (character == '"') {
+                myHasBlanksAtEnds = myHasBlanksAtEnds || myAt > myCell.from;
+                myCell = {myAt + 1, 0, /*isQuoted=*/true};
+                myState = State::InQuotes;
+                break;
+            }
+            myState = character == ' ' ? State::Before : State::InPlain;
+            [[fallthrough]];
+        case State::InPlain:
+            if (character == mySeparator) {
+                EndCell();
+            }
+            break;
+        case State::InQuotes:
+            if (character == '"') {
+                myCell.to = myAt;
+                myState = State::AtQuote;
+            }
+            break;
+        case State::AtQuote:
+            if (character == '"') { // Two quotes stand for one.
+                myState = State::InQuotes;
+                break;
+            }
+            [[fallthrough]];
+        case State::AfterQuotes:
+            if (character == mySeparator) {
+                EndCell();
+            } else {
+                myHasBlanksAtEnds = myHasBlanksAtEnds || character == ' ';
+                myState = character == ' ' ? State::AfterQuotes : State::Malformed;
+            }
+            break;
+        case State::Malformed:
+            return;
+        }
     }
-}
-
-void MeantCells::End() {
-    EndCell();
-}
-
-void MeantCells::Step(char pCharacter) {
-    switch (myState) {
-    case State::Before:
-    case State::InPlain:
-        StepInPlain(pCharacter);
-        break;
-    case State::InQuotes:
-        StepInQuotes(pCharacter);
-        break;
-    case State::AfterQuote:
-        StepAfterQuote(pCharacter);
-        break;
-    case State::Malformed:
-        break;
-    }
-}
-
-void MeantCells::StepInPlain(char pCharacter) {
-    if (pCharacter == mySeparator) {
-        EndCell();
-    } else if (pCharacter == '"' && myState == State::Before) {
-        myHasBlanksAtEnds = myHasBlanksAtEnds || !myCell.empty();
-        myCell.clear();
-        myState = State::InQuotes;
-    } else {
-        myState = pCharacter == ' ' ? myState : State::InPlain;
-        myCell += pCharacter;
-    }
-}
-
-void MeantCells::StepInQuotes(char pCharacter) {
-    if (pCharacter == '"') {
-        myWasQuote = true;
-        myState = State::AfterQuote;
-    } else {
-        myCell += pCharacter;
-    }
-}
-
-void MeantCells::StepAfterQuote(char pCharacter) {
-    if (pCharacter == '"' && myWasQuote) {
-        myCell += pCharacter;
-        myState = State::InQuotes;
-    } else if (pCharacter == mySeparator) {
-        EndCell();
-    } else if (pCharacter == ' ') {
-        myHasBlanksAtEnds = true;
-    } else {
-        myState = State::Malformed;
-    }
-    myWasQuote = false;
 }
 
 void MeantCells::EndCell() {
-    myHasBlanksAtEnds = myHasBlanksAtEnds || Trim(myCell).size() != myCell.size();
+    if (!myCell.isQuoted || IsOpen()) {
+        myCell.to = myAt;
+    }
+    myHasBlanksAtEnds = myHasBlanksAtEnds || Trim(Inside(myCell)).size() != Inside(myCell).size();
     myCells.push_back(myCell);
-    myCell.clear();
-    if (myState != State::Malformed && myState != State::InQuotes) {
+    myCell = Cell{myAt + 1};
+    if (!IsOpen() && !HasTextAfterQuote()) {
         myState = State::Before;
     }
 }
 
+TextRow MeantCells::Row(TextRowRoom &pRoom) const {
+    TextRowBuilder row(pRoom, myCells.size(), myText.size(), myText);
+    for (const Cell &cell : myCells) {
+        std::string_view rest = Trim(Inside(cell));
+        std::size_t quote = cell.isQuoted ? rest.find('"') : std::string_view::npos;
+        while (quote != std::string_view::npos) {
+            row.AddPart(rest.substr(0, quote + 1));
+            rest.remove_prefix(quote + 2);
+            quote = rest.find('"');
+        }
+        row.Append(rest);
+    }
+    return row.Row();
+}
+
 char SeparatorOf(std::string_view pLine, std::size_t pCols) {
-    std::size_t commas = 0;
-    std::size_t semicolons = 0;
-    std::size_t tabs = 0;
+    constexpr std::string_view marks = ",;\t";
+    std::size_t counts[] = {0, 0, 0};
     bool isInQuotes = false;
     for (const char character : pLine) {
         isInQuotes = isInQuotes != (character == '"');
-        commas += !isInQuotes && character == ',' ? 1U : 0U;
-        semicolons += !isInQuotes && character == ';' ? 1U : 0U;
-        tabs += !isInQuotes && character == '\t' ? 1U : 0U;
+        const std::size_t mark = isInQuotes ? std::string_view::npos : marks.find(character);
+        if (mark != std::string_view::npos) {
+            ++counts[mark];
+        }
     }
+    const auto [commas, semicolons, tabs] = counts;
     if (commas + 1 == pCols || semicolons + tabs == 0) {
         return ',';
     }
     if (semicolons + 1 == pCols || tabs + 1 == pCols) {
         return semicolons + 1 == pCols ? ';' : '\t';
     }
-    if (commas > 0) {
-        return ',';
-    }
-    return semicolons >= tabs ? ';' : '\t';
+    return commas > 0 ? ',' : semicolons >= tabs ? ';' : '\t';
 }

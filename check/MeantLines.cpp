@@ -1,93 +1,65 @@
 #include "check/MeantLines.h"
 
-#include "check/MeantCells.h"
-
-#include <limits>
+#include <algorithm>
 #include <utility>
 
-/// Reads the next piece. Its text is valid until the next read.
-bool MeantLines::Read(Piece &pPiece) {
-    pPiece.startsEditorLine = !myHasRest;
-    // After an LF at the very end of the file there is no further line.
-    if ((!myHasRest || myRest.empty()) && myFile.AtEnd()) {
-        return false;
-    }
-    if (!myHasRest) {
-        myRest = myFile.LineInput();
-        ++myEditorLines;
-    }
-    const std::size_t length = myRest.find('\n');
-    myHasRest = length != std::string_view::npos;
-    pPiece.text = myRest.substr(0, length);
-    pPiece.number = ++myNumber;
-    pPiece.editorLine = myEditorLines - 1;
-    pPiece.endsEditorLine = !myHasRest;
-    myRest.remove_prefix(myHasRest ? length + 1 : myRest.size());
-    return true;
-}
-
-void MeantLines::Serve(const Piece &pFirst, const Piece &pLast) {
-    const bool isEditorLine =
-        pFirst.startsEditorLine && pLast.endsEditorLine && pFirst.editorLine == pLast.editorLine;
-    myLine.number = pFirst.number;
-    myLine.editorLine = isEditorLine ? std::optional(pFirst.editorLine) : std::nullopt;
-    myLine.endsInLf = !pLast.endsEditorLine;
-}
-
 bool MeantLines::Next() {
-    if (!myAhead.empty()) {
-        myText = std::move(myAhead.front().text);
-        myPiece = myAhead.front().piece;
-        myPiece.text = myText;
-        myAhead.pop_front();
-    } else if (!Read(myPiece)) {
+    myFrom += myAt.next;
+    myLf -= std::min(myLf, myAt.next);
+    myEditorLine = myAt.endsInLf ? std::nullopt : std::optional(myAt.editorLines);
+    myAt.next = 0;
+    const bool isThere = Join();
+    myUnjoined = myAt;
+    return isThere;
+}
+
+bool MeantLines::Join() {
+    if (Window().size() == myAt.next && !ReadMore()) {
         return false;
     }
-    ++myCount;
-    myLine.text = myPiece.text;
-    Serve(myPiece, myPiece);
+    myAt.end = LineEnd();
+    if (Window().size() < myAt.end + 2) {
+        ReadMore(); // The LF after a CR may come with the next block.
+    }
+    const std::string_view end = Window().substr(myAt.end, 2);
+    myAt.next = myAt.end + (end == "\r\n" ? 2 : std::min<std::size_t>(end.size(), 1));
+    myAt.endsInLf = end.starts_with('\n');
+    myAt.editorLines += myAt.endsInLf ? 0 : 1;
+    ++myAt.lines;
     return true;
 }
 
-/// Whether there is a piece at pPlace of myAhead. Reads it if it is the next one.
-bool MeantLines::IsKept(std::size_t pPlace) {
-    Piece piece;
-    if (pPlace == myAhead.size() && Read(piece)) {
-        Kept kept{std::string(piece.text), piece};
-        kept.piece.text = {};
-        myAhead.push_back(std::move(kept));
-    }
-    return pPlace < myAhead.size();
+void MeantLines::Unjoin() {
+    myAt = myUnjoined;
+    myLf = 0;
 }
 
-bool MeantLines::Join(MeantCells &pCells) {
-    if (myPiece.number < myNoCloseUpTo) {
-        return false;
-    }
-    myText = std::string(myPiece.text); // Reading on would move it.
-    myLine.text = myPiece.text = myText;
-    std::string joined = myText;
-    Piece last = myPiece;
-    std::size_t taken = 0;
-    while (pCells.IsOpen()) {
-        if (!IsKept(taken)) {
-            myNoCloseUpTo = std::numeric_limits<std::size_t>::max();
-            return false;
+std::optional<std::size_t> MeantLines::EditorLine() const {
+    const bool isWhole = myEditorLine && !myAt.endsInLf && myAt.editorLines == *myEditorLine + 1;
+    return isWhole ? myEditorLine : std::nullopt;
+}
+
+/// Where the line at myAt.next ends. Reads until all of it is in memory.
+std::size_t MeantLines::LineEnd() {
+    for (std::size_t at = myAt.next;;) {
+        if (myLf <= at) {
+            myLf = std::min(Window().find('\n', at), Window().size());
         }
-        const std::size_t from = joined.size();
-        joined += last.endsEditorLine ? '\r' : '\n';
-        joined += myAhead[taken].text;
-        last = myAhead[taken].piece;
-        ++taken;
-        pCells.Take(std::string_view(joined).substr(from));
+        const std::size_t end = std::min(Window().substr(0, myLf).find('\r', at), myLf);
+        at = Window().size();
+        if (end < at || !ReadMore()) {
+            return end;
+        }
     }
-    if (pCells.HasTextAfterQuote()) {
-        myNoCloseUpTo = last.number;
-        return false;
-    }
-    myAhead.erase(myAhead.begin(), myAhead.begin() + static_cast<std::ptrdiff_t>(taken));
-    myText = std::move(joined);
-    myLine.text = myText;
-    Serve(myPiece, last);
-    return true;
+}
+
+/// Reads the next bytes of the file. False at its end.
+bool MeantLines::ReadMore() {
+    constexpr std::size_t blockBytes = std::size_t{64} << 10U;
+    myBytes.erase(0, std::exchange(myFrom, 0));
+    const std::size_t size = myBytes.size();
+    myBytes.resize(size + blockBytes);
+    const std::size_t count = myFile.Read(&myBytes[size], blockBytes);
+    myBytes.resize(size + count);
+    return count > 0;
 }

@@ -1,72 +1,59 @@
 #pragma once
-/// The lines of a file as their writer meant them: CR LF, LF and CR all end a line, and they don't inside
-/// quotes. Each says whether the editor takes it for a line too.
-#include "system/Files.h"
+/// The lines of a file as their writer meant them: CR LF, LF and CR all end a line. Each says whether the
+/// editor takes it for a line too. A line can be joined with the next ones, which is for whoever knows of
+/// quotes. Of the file only the line is in memory: to touch memory for all of it takes longer than to look at
+/// it.
+#include "system/System.h"
 
 #include <cstddef>
-#include <deque>
 #include <optional>
 #include <string>
 #include <string_view>
-
-class MeantCells;
-
-struct MeantLine {
-    std::string_view text;  ///< without its end; a joined one has breaks in it, CR LF as CR
-    std::size_t number = 0; ///< of its first line, from 1
-    std::optional<std::size_t>
-        editorLine;        ///< the number, from 0, if the editor takes exactly this for a line
-    bool endsInLf = false; ///< in LF alone
-};
 
 class MeantLines {
 public:
     explicit MeantLines(const std::string &pFile) : myFile(pFile) {}
 
-    /// Goes to the next line, by line ends of any kind. False when there is none.
+    /// Goes to the next line. False when there is none.
     bool Next();
-    /// The line. It stays valid until the next one is asked for.
-    const MeantLine &Line() const { return myLine; }
+    /// Adds the next line to this one, with the line end between them. False when there is none. Text moves.
+    bool Join();
+    /// Goes back to the line as it was before any was joined.
+    void Unjoin();
 
-    /// pCells has taken the line and is open. Joins the next lines to it until the quote closes. False, and
-    /// the line stays as it is, if it never does, or if text follows the closing quote.
-    bool Join(MeantCells &pCells);
+    /// The line without its end.
+    std::string_view Text() const { return Window().substr(0, myAt.end); }
+    /// The number of its first line, and the number of its last, from 1.
+    std::size_t Number() const { return myUnjoined.lines; }
+    std::size_t LastNumber() const { return myAt.lines; }
+    /// Whether it ends in LF alone.
+    bool EndsInLf() const { return myAt.endsInLf; }
+    /// The number that the editor gives to exactly this line, from 0; null if it ends lines elsewhere.
+    std::optional<std::size_t> EditorLine() const;
 
-    /// How many lines there have been. A joined line counts as one.
-    std::size_t Count() const { return myCount; }
     /// Why the file can't be read to its end. Empty if it can.
     std::string_view Fault() const { return myFile.Fault(); }
 
 private:
-    /// What stands between two line ends of any kind.
-    struct Piece {
-        std::string_view text;
-        std::size_t number = 0;
-        std::size_t editorLine = 0;
-        bool startsEditorLine = false;
-        bool endsEditorLine = false;
-    };
-    struct Kept {
-        std::string text;
-        Piece piece; ///< its text is not set
+    /// How far the lines have been passed. Places count from the start of the line.
+    struct Passed {
+        std::size_t end = 0;  ///< of the line's text
+        std::size_t next = 0; ///< where the next line begins
+        std::size_t lines = 0;
+        std::size_t editorLines = 0;
+        bool endsInLf = false;
     };
 
-    bool Read(Piece &pPiece);
-    bool IsKept(std::size_t pPlace);
-    void Serve(const Piece &pFirst, const Piece &pLast);
+    /// The bytes in memory, from the start of the line.
+    std::string_view Window() const { return std::string_view(myBytes).substr(myFrom); }
+    bool ReadMore();
+    std::size_t LineEnd();
 
-    TextInput myFile;
-    std::string_view myRest; ///< of the editor's line, after an LF
-    bool myHasRest = false;
-    std::size_t myEditorLines = 0;
-    std::size_t myNumber = 0;
-
-    std::deque<Kept> myAhead; ///< read in search of a closing quote
-    std::string myText;       ///< of the line, when it isn't in the file's buffer
-    Piece myPiece;
-    MeantLine myLine;
-    std::size_t myCount = 0;
-    /// A quote that is open at the start of a line, up to this one, doesn't close well. Without it each of
-    /// many open quotes would cost a search to the end of the file.
-    std::size_t myNoCloseUpTo = 0;
+    os::FileReader myFile;
+    std::string myBytes;
+    std::size_t myFrom = 0;
+    Passed myAt;
+    Passed myUnjoined;
+    std::optional<std::size_t> myEditorLine; ///< the one that begins where the line does
+    std::size_t myLf = 0; ///< the next LF, or up to where there is none, so that no byte is searched twice
 };

@@ -25,8 +25,8 @@ public:
     void Print(std::ostream &pTo) const;
 
 private:
-    void TakeColumn(const SpecColumn &pColumn, std::size_t pLine);
-    void TakeList(const std::string &pFile, WantedColumn &pColumn);
+    void LookAtColumn(const SpecColumn &pColumn, std::size_t pLine);
+    void LookAtList(const std::string &pFile, WantedColumn &pColumn);
 
     std::string myProgramFolder;
     std::deque<Findings> myFindings; ///< of the specification, then of each list

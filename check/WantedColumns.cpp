@@ -1,6 +1,7 @@
 #include "check/WantedColumns.h"
 
 #include <algorithm>
+#include <optional>
 
 std::vector<std::string> TitlesOf(const WantedColumns &pWanted) {
     std::vector<std::string> titles;
@@ -11,20 +12,16 @@ std::vector<std::string> TitlesOf(const WantedColumns &pWanted) {
 }
 
 std::vector<std::size_t> OrderOf(const WantedColumns &pWanted, const std::vector<std::string> &pTitles) {
-    const std::vector<std::string> wanted = TitlesOf(pWanted);
+    std::vector<std::optional<std::string>> left(pTitles.begin(), pTitles.end());
     std::vector<std::size_t> order;
-    if (pTitles == wanted ||
-        !std::is_permutation(wanted.begin(), wanted.end(), pTitles.begin(), pTitles.end())) {
-        return order;
-    }
-    std::vector<bool> isTaken(pTitles.size()); // Two columns may have the same title.
-    for (const std::string &title : wanted) {
-        std::size_t place = 0;
-        while (isTaken[place] || pTitles[place] != title) {
-            ++place;
+    for (const WantedColumn &column : pWanted) {
+        const auto found = std::find(left.begin(), left.end(), column.title);
+        if (found == left.end()) {
+            return {};
         }
-        isTaken[place] = true;
-        order.push_back(place);
+        order.push_back(static_cast<std::size_t>(found - left.begin()));
+        found->reset(); // Two columns may have the same title.
     }
-    return order;
+    const bool isOther = pTitles.size() == order.size() && !std::is_sorted(order.begin(), order.end());
+    return isOther ? order : std::vector<std::size_t>();
 }

@@ -1,5 +1,6 @@
 #include "check/modCheck.h"
 
+#include "check/CleanCopy.h"
 #include "check/DataCheck.h"
 #include "check/SpecCheck.h"
 #include "data/Switches.h"
@@ -55,37 +56,42 @@ std::optional<Request> Read(const std::vector<std::string> &pWords) {
     return request;
 }
 
+/// How many records a file was meant to have, and how many of them the editor shows.
+std::string RecordsLine(const std::string &pFile, std::size_t pRecords, std::size_t pShown) {
+    return pFile + ": " + Counted(pRecords, "record") + " in the file, " + std::to_string(pShown) +
+           " in the editor\n";
+}
+
 int CheckData(const Request &pRequest, const SpecCheck *pSpec, std::ostream &pOut, std::ostream &pErrors) {
     static const WantedColumns none;
     const bool isRefused = pSpec != nullptr && pSpec->Columns().empty();
     const WantedColumns &wanted = pSpec != nullptr ? pSpec->Columns() : none;
-    Findings findings(*pRequest.datFile);
-    CleanCopy copy(pRequest.fmt, wanted);
-    DataCheck check(pRequest.fmt, wanted, findings, pRequest.newFile ? &copy : nullptr);
-    check.Run();
-    if (!check.Fault().empty()) {
-        pErrors << *pRequest.datFile << ": " << check.Fault() << '\n';
+    const EditorTable editor(*pRequest.datFile, pRequest.fmt, TitlesOf(wanted));
+    const MeantTable meant(editor, wanted);
+    if (!meant.fault.empty()) {
+        pErrors << *pRequest.datFile << ": " << meant.fault << '\n';
         return statusImpossible;
     }
-    if (isRefused) {
-        copy.Refuse(0, "the editor refuses the specification");
-    }
+    Findings findings(*pRequest.datFile);
+    CompareWithEditor(meant, editor, wanted, findings);
+    std::string copyFault;
+    std::string copyLine;
     if (pRequest.newFile) {
+        CleanCopy copy(meant, pRequest.fmt);
+        if (isRefused) {
+            copy.Refuse("the editor refuses the specification");
+        }
         copy.Write(*pRequest.newFile);
-    }
-    const bool isCopied = pRequest.newFile && copy.Fault().empty();
-    if (isCopied) {
-        copy.Report(findings);
+        copyFault = copy.Fault();
+        if (copyFault.empty()) {
+            copy.Report(findings);
+            copyLine = RecordsLine(*pRequest.newFile, copy.Rows().size(), copy.Rows().size());
+        }
     }
     findings.Print(pOut);
-    if (isCopied) {
-        pOut << *pRequest.newFile << ": " << Counted(copy.Rows().size(), "record") << " in the file, "
-             << copy.Rows().size() << " in the editor\n";
-    }
-    pOut << *pRequest.datFile << ": " << Counted(check.Records(), "record") << " in the file, "
-         << (isRefused ? 0 : check.Shown()) << " in the editor\n";
-    if (pRequest.newFile && !isCopied) {
-        pErrors << *pRequest.newFile << ": not written: " << copy.Fault() << '\n';
+    pOut << copyLine << RecordsLine(*pRequest.datFile, meant.records, isRefused ? 0 : editor.shown);
+    if (!copyFault.empty()) {
+        pErrors << *pRequest.newFile << ": not written: " << copyFault << '\n';
         return statusImpossible;
     }
     return findings.Of(Kind::Lost) + findings.Of(Kind::Changed) > 0 ? statusFound : statusGood;

@@ -1,12 +1,25 @@
 /// The checker and its copies, on any data file and any specification. A file said to lose nothing loads
 /// whole. A copy loads with exactly the cells that were reported, and the checker finds nothing more in it.
 /// The first byte chooses the form and whether there is a specification.
+#include "check/CleanCopy.h"
 #include "check/DataCheck.h"
 #include "check/SpecCheck.h"
 #include "data/SpecColumns.h"
 #include "fuzz/FuzzSupport.h"
+#include "system/Files.h"
 
 namespace {
+
+/// A file as it was meant, with what the checker has to say of it.
+struct Checked {
+    Checked(const std::string &pFile, std::int16_t pFmt, const WantedColumns &pWanted)
+        : editor(pFile, pFmt, TitlesOf(pWanted)), meant(editor, pWanted), findings(pFile) {
+        CompareWithEditor(meant, editor, pWanted, findings);
+    }
+    EditorTable editor;
+    MeantTable meant;
+    Findings findings;
+};
 
 std::vector<Words> RowsOf(const CleanCopy &pCopy) {
     std::vector<Words> rows;
@@ -23,10 +36,8 @@ std::vector<Words> RowsOf(std::string_view pBytes, const char *pLineEnd, std::in
         bytes += character == '\n' ? std::string(pLineEnd) : std::string(character != '\r', character);
     }
     probe.Load(pFmt, bytes);
-    Findings findings(probe.table.FileName());
-    CleanCopy copy(pFmt, pWanted);
-    DataCheck(pFmt, pWanted, findings, &copy).Run();
-    return RowsOf(copy);
+    const Checked checked(probe.table.FileName(), pFmt, pWanted);
+    return RowsOf(CleanCopy(checked.meant, pFmt));
 }
 
 void RequireWholeCopy(CleanCopy &pCopy, std::int16_t pFmt, const WantedColumns &pWanted) {
@@ -40,10 +51,9 @@ void RequireWholeCopy(CleanCopy &pCopy, std::int16_t pFmt, const WantedColumns &
     }
     Require(!probe.Load(pFmt, BytesOf(file)) && probe.table.Fault().empty(), "a copy loads whole");
     Require(probe.Cells() == RowsOf(pCopy), "a copy has the cells that were reported");
-    Findings findings(file);
-    DataCheck(pFmt, pWanted, findings).Run();
+    const Findings findings = Checked(file, pFmt, pWanted).findings;
     Require(findings.Of(Kind::Lost) == 0, "a copy loses nothing");
-    Require(findings.Of(Kind::Changed) == findings.Of(Sort::Titles), "only titles of a copy would change");
+    Require(findings.Of(Kind::Changed) == findings.Of(Fault::Title), "only titles of a copy would change");
     std::remove(file.c_str());
 }
 
@@ -56,14 +66,13 @@ void RequireLaws(std::string_view pBytes) {
     const WantedColumns wanted =
         choice % 6 < 3 ? WantedColumns{} : WantedColumns{{"a", {"x", "y"}}, {"b", {}}};
     const bool endsProgram = probe.Load(fmt, pBytes.substr(pBytes.empty() ? 0 : 1)).has_value();
-    Findings findings(probe.table.FileName());
-    CleanCopy copy(fmt, wanted);
-    DataCheck check(fmt, wanted, findings, &copy);
-    check.Run();
-    if (findings.Of(Kind::Lost) == 0) {
+    const Checked checked(probe.table.FileName(), fmt, wanted);
+    if (checked.findings.Of(Kind::Lost) == 0) {
         Require(!endsProgram && probe.table.Fault().empty(), "a file that loses nothing loads");
-        Require(std::cmp_equal(probe.table.Rows(), check.Records()), "a file that loses nothing loads whole");
+        Require(std::cmp_equal(probe.table.Rows(), checked.meant.records),
+                "a file that loses nothing loads whole");
     }
+    CleanCopy copy(checked.meant, fmt);
     RequireWholeCopy(copy, fmt, wanted);
     Require(fmt == clsDatFile::fmtDat ||
                 RowsOf(pBytes, "\n", fmt, wanted) == RowsOf(pBytes, "\r\n", fmt, wanted),
