@@ -242,7 +242,7 @@ void MeantTable::SettleColumns(const WantedColumns &pWanted) {
 
 /// Compares the number of the record's cells with that of the columns.
 void MeantTable::Fit(MeantRecord &pRecord) const {
-    const std::span<const TextRow::Place> ends = pRecord.cells.Ends();
+    const std::span<const TextRow::Offset> ends = pRecord.cells.Ends();
     pRecord.faults.Set(ManyColumns, cols > modGetWords::mostWords);
     pRecord.faults.Set(TooFew, ends.size() < cols);
     if (ends.size() > cols) {

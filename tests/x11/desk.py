@@ -36,6 +36,7 @@ class Desk:
         # Stands in for the desktop's own, which starts a browser that outlives the session.
         opener = self.folder / "bin" / "xdg-open"
         opener.parent.mkdir()
+        (self.folder / "opened").touch()
         opener.write_text('#!/bin/sh\necho "$1" >>"%s"\n' % (self.folder / "opened"))
         opener.chmod(0o755)
         os.environ["PATH"] = "%s:%s" % (opener.parent, os.environ["PATH"])
@@ -62,8 +63,7 @@ class Desk:
 
     def opened(self):
         """What the editor has handed to the desktop to open, in order."""
-        list_of_them = self.folder / "opened"
-        return list_of_them.read_text().splitlines() if list_of_them.exists() else []
+        return (self.folder / "opened").read_text().splitlines()
 
     # --- windows and keys
 
@@ -99,10 +99,6 @@ class Desk:
         node.clear_cache()
         return node.get_state_set().contains(getattr(Atspi.StateType, name))
 
-    def description(self, node):
-        node.clear_cache()
-        return node.get_description()
-
     def focused(self):
         """Name of the innermost object that has the focus; None while none has it."""
         return next((one.get_name() for one in reversed(list(self.walk())) if self.state(one, "FOCUSED")), None)
@@ -136,9 +132,6 @@ def main(session):
     except BaseException:
         traceback.print_exc()
         print("the editor said:", desk.log.read_text(errors="replace"))
-        picture = os.environ.get("NORVO_SESSION_PICTURE")
-        if picture:
-            subprocess.run(["import", "-window", "root", picture], check=False)
         sys.exit(1)
     finally:
         desk.close()

@@ -10,9 +10,6 @@ def session(d, share):
 
     least = hands.expect_drags(window, ((-200, -100), (150, 100), (-350, -200)))
     d.expect(lambda: hands.place(window)[2:], least, "the least size")
-    button = d.find("push button", "Cancel").get_component_iface().get_extents(desk.Atspi.CoordType.SCREEN)
-    x, y, width, height = hands.place(window)
-    assert button.x + button.width < x + width and button.y + button.height < y + height, "the button is out of sight"
 
     # The About box belongs to no window: it stays on the screen when the main window is minimised, and lets it come
     # in front.

@@ -2,8 +2,6 @@
 of the controls, the list's headings and cells, the texts of the boxes. Only the link in the About box needs a
 click."""
 
-import resource
-
 import desk
 from desk import TITLE
 
@@ -23,55 +21,25 @@ def session(d, share):
                   ("Delete", ""), ("Move Up", "Move Up"), ("Move Down", "Move Down")))}
     d.expect(lambda: wanted - {(one.get_role_name(), one.get_name(), one.get_description(), d.state(one, "ENABLED"))
                                for one in d.walk()}, set(), "the controls that are missing")
-    headings = [d.table().get_column_description(i) for i in range(5)]
-    assert headings == ["Zone", "Area", "Country", "Position", "Remarks"], headings
+    assert d.table().get_column_description(4) == "Remarks", "the headings"
 
-    def enabled():
-        return [name for name in ("Delete", "Move Up", "Move Down") if d.state(d.find("push button", name), "ENABLED")]
-
-    # Update, move and delete a record with the buttons, by keys. The update empties the fields, and an empty combo
-    # field doesn't let the focus leave, so the keys avoid them.
-    changed = 'Africa/Algiers",'
+    # Update and move a record by keys. The update empties the fields, and an empty combo field doesn't let the focus
+    # leave, so the keys avoid them.
     for keys, actual, result in (
-            ("", d.focused, "Add"),
-            ("Tab Tab Tab", d.focused, "Records"),
-            ("Down Down", lambda: d.text("Zone"), "Africa/Algiers"),
-            ("", enabled, ["Delete", "Move Up", "Move Down"]),
-            ("Tab", d.focused, "Zone"),
-            ("End quotedbl comma", lambda: d.text("Zone"), changed),
-            ("shift+Tab", d.focused, "Records"),
-            ("shift+Tab " * 6, d.focused, "Update"),
-            ("space", lambda: d.cell(1, 0), changed),
-            ("Tab", d.focused, "Move Up"),
-            ("space", lambda: d.cell(0, 0), changed),
-            ("", d.focused, "Records"),  # The button Move Up is disabled now.
-            ("", enabled, ["Delete", "Move Down"]),
-            ("Down", lambda: d.text("Zone"), "Africa/Abidjan"),
-            ("shift+Tab " * 4, d.focused, "Delete"),
-            ("space", d.table().get_n_rows, 311)):
+            ("Tab Tab Tab Down Down Tab End quotedbl comma", lambda: d.text("Zone"), 'Africa/Algiers",'),
+            ("shift+Tab " * 7 + "space", lambda: d.cell(1, 0), 'Africa/Algiers",'),
+            ("Tab space", d.focused, "Records")):  # The button Move Up is disabled now.
         d.key(*keys.split())
         d.expect(actual, result, "after the keys %r" % keys)
 
-    def save():
-        d.key("alt+a")
-        d.focus("Save As")
-        d.key("ctrl+a")
-        d.type(str(saved))
-        d.key("Return")
-
-    # The system refuses to write a large file, and later it doesn't.
-    resource.prlimit(d.editor.pid, resource.RLIMIT_FSIZE, (1000, resource.RLIM_INFINITY))
-    save()
-    d.find("label", "File %s can't be saved: File too large. The records are still in the list. "
-           "The file itself may now be incomplete." % saved)
-    d.expect(d.focused, "OK", "the focus in the message")
+    d.key("alt+a")
+    d.focus("Save As")
+    d.key("ctrl+a")
+    d.type(str(saved))
     d.key("Return")
-    d.expect(d.focused, "Save As", "the focus after the message")
-    resource.prlimit(d.editor.pid, resource.RLIMIT_FSIZE, (resource.RLIM_INFINITY, resource.RLIM_INFINITY))
-    save()
     d.focus(TITLE)
-    lines = sample.read_bytes().replace(b"312,", b"311,", 1).split(b"\r\n")
-    lines[1:3] = [lines[2].replace(b"Algiers", b'Algiers"",')]
+    lines = sample.read_bytes().split(b"\r\n")
+    lines[1:3] = [lines[2].replace(b"Algiers", b'Algiers"",'), lines[1]]
     d.expect(saved.read_bytes, b"\r\n".join(lines), "the saved file")
 
     # Help, the About box, and the way out.
@@ -80,8 +48,7 @@ def session(d, share):
     d.expect(d.opened, [page], "the help page handed to the desktop")
     d.key("alt+h", "a")
     about = d.focus("About " + TITLE)
-    states = desk.run("xprop", "-id", about, "_NET_WM_STATE")
-    assert "_NET_WM_STATE_SKIP_TASKBAR" in states, states
+    assert "_NET_WM_STATE_SKIP_TASKBAR" in desk.run("xprop", "-id", about, "_NET_WM_STATE")
     for text in ("NorvoEditDat", "1.00.0020", "Easily edit data files."):
         d.find("label", text)
     d.click(d.find("label", "\xa9 2026 the authors"), times=2)

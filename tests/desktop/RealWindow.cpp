@@ -1,5 +1,6 @@
-#include "tests/desktop/Bench.h"
+#include "tests/desktop/RealWindow.h"
 
+#include <QScreen>
 #include <QWindow>
 
 /// The font library and Qt's keyboard never free some of their memory. These are not leaks of this program.
@@ -14,11 +15,17 @@ int main(int pWordCount, char **pWords) {
     return RUN_ALL_TESTS();
 }
 
-Bench::Bench() {
+RealWindow::RealWindow() {
     form.ClientSize(6000, 3000);
-    cmdCancel.Cancel(true);
-    cmdCancel.Move(0, 0, 840, 360); // A view without a size takes no focus.
-    list.Move(0, 0, 5700, 1700);
+    mnuEdit.Caption("&Edit");
+    cmdAdd.Move(0, 2400, 840, 360);
+    cmdAdd.Caption("&Add");
+    cmdAdd.Cancel(true);
+    name.Move(0, 0, 1500, 315);
+    fruit.Move(1500, 0, 1500, 315);
+    fruit.AccessibleName("Fruit");
+    fruit.AccessibleDescription("listed");
+    list.Move(0, 600, 5700, 1700);
     list.ColumnHeaders.Add("Name");
     list.ColumnHeaders.Width(1, 3000);
     for (const char *entry : {"Abacus", "Apple", "Banana"}) {
@@ -29,7 +36,6 @@ Bench::Bench() {
     combo.cb(fruit);
     form.Resize.Connect([this] { layout.RedrawLayout(); });
     cmdAdd.Click.Connect([this] { acts += "Add "; });
-    cmdCancel.Click.Connect([this] { acts += "Cancel "; });
     list.ItemClick.Connect([this](ListItem &pItem) { acts += std::to_string(pItem.Index()) + " "; });
     layout.SetLayout(form);
     desktop.Run([this] { form.Show(); });
@@ -42,14 +48,20 @@ Bench::Bench() {
     EXPECT_TRUE(QTest::qWaitForWindowActive(window));
 }
 
-void Bench::Key(int pKey, Qt::KeyboardModifiers pModifiers, bool pIsAutoRepeat) {
-    const QString text = pKey < 0x80 ? QString(QChar(pKey).toLower()) : QString();
-    for (const bool isPress : {true, false}) {
-        QTest::simulateEvent(window->windowHandle(), isPress, pKey, pModifiers, text, pIsAutoRepeat);
+void RealWindow::Keys(const char *pKeys) {
+    for (const QString &word : QString(pKeys).split(u' ')) {
+        const QKeyCombination key = KeyOf(word);
+        const QString text = key.key() < 0x80 ? QString(QChar(key.key()).toLower()) : QString();
+        for (const bool isPress : {true, false}) {
+            const QWidget *popup = QApplication::activePopupWidget(); // It gets all keys.
+            QTest::simulateEvent((popup == nullptr ? window : popup)->windowHandle(), isPress, key.key(),
+                                 key.keyboardModifiers(), text, false);
+        }
     }
 }
 
-void Bench::Click(const QWidget &pWidget, QPoint pAt, Qt::KeyboardModifiers pModifiers,
-                  Qt::MouseButton pButton) {
-    QTest::mouseClick(window->windowHandle(), pButton, pModifiers, pWidget.mapTo(window, pAt));
+QImage RealWindow::Screen(const QWidget &pPart) {
+    QApplication::processEvents(); // What has changed is painted there.
+    const QImage all = pPart.screen()->grabWindow(pPart.window()->winId()).toImage();
+    return all.copy(QRect(pPart.mapTo(pPart.window(), QPoint()), pPart.size()));
 }
