@@ -9,7 +9,6 @@
 #include <QPainter>
 #include <QStyleOptionViewItem>
 #include <QTextLayout>
-#include <QWidget>
 
 #include <algorithm>
 

@@ -38,6 +38,8 @@ FormWindow::FormWindow(Acts &pActs, Form &pForm) : myActs(pActs), myForm(pForm),
 }
 
 FormWindow::~FormWindow() {
+    disconnect(qApp, nullptr, this,
+               nullptr); // Qt moves the focus once more when this is no FormWindow any more.
     myIsReady = false;
     myViews.clear();
 }
@@ -117,7 +119,12 @@ void FormWindow::changeEvent(QEvent *pEvent) {
 bool FormWindow::event(QEvent *pEvent) {
     const bool isHandled = QWidget::event(pEvent);
     if (pEvent->type() == QEvent::WindowActivate) {
-        ShowFocus();
+        // Enter acts on the focused control from the first moment, so the user must see which one it is
+        // before any Tab.
+        setAttribute(Qt::WA_KeyboardFocusChange);
+        if (focusWidget() != nullptr) {
+            focusWidget()->update();
+        }
     }
     // The menu bar wants another height, for example because the system's font has changed.
     if (pEvent->type() == QEvent::LayoutRequest && myIsReady && myBar != nullptr &&

@@ -48,7 +48,6 @@ private:
     void SetFrame();
     void AddViews();
     void SetTabOrder() const;
-    void ShowFocus();
     void FocusMoved(const QWidget *pNow);
     /// Whether a press of the mouse there would take the focus from a field that refuses.
     bool RefusesPress(const QPoint &pAt);

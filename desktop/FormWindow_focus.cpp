@@ -1,4 +1,4 @@
-// The focus in the window: where it begins, how it shows, and who may move it.
+// The focus in the window: where it begins, and who may move it.
 #include "desktop/FormWindow.h"
 
 #include <QApplication>
@@ -28,15 +28,6 @@ void FormWindow::SetTabOrder() const {
     }
     if (!order.empty()) {
         order.front()->Widget().setFocus();
-    }
-}
-
-void FormWindow::ShowFocus() {
-    // Enter acts on the focused control from the first moment, so the user must see which one it is before
-    // any Tab.
-    setAttribute(Qt::WA_KeyboardFocusChange);
-    if (focusWidget() != nullptr) {
-        focusWidget()->update();
     }
 }
 

@@ -10,7 +10,6 @@
 #include <QPainter>
 #include <QScopedValueRollback>
 #include <QScrollBar>
-#include <QTimer>
 
 #include <algorithm>
 
@@ -20,7 +19,8 @@ RecordList::RecordList(Acts &pActs, ListView &pList, QWidget &pParent)
     Prepare();
     connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
         if (!myIsShowing) { // Later: Qt is still changing its selection.
-            QTimer::singleShot(0, this, [this] { SelectedByOthers(); });
+            QMetaObject::invokeMethod(
+                this, [this] { SelectedByOthers(); }, Qt::QueuedConnection);
         }
     });
 }

@@ -9,7 +9,6 @@
 #include <cstdlib>
 #include <initializer_list>
 #include <memory>
-#include <string_view>
 #include <vector>
 
 #include <xcb/xcb.h>
