@@ -27,8 +27,9 @@ public:
     /// Whether the control lets the user move the focus away.
     virtual bool MayLoseFocus() { return true; }
 
-    /// Whether this control gets the focus when the button that has it is disabled.
-    virtual bool TakesFocusOfDisabled() const { return false; }
+    /// Takes the focus from a button that is about to be disabled, if this kind of control does so. Returns
+    /// whether it has.
+    virtual bool TakeFocusOfDisabled() { return false; }
 
 protected:
     /// How the control takes the focus while it is visible.

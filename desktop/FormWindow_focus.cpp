@@ -64,10 +64,8 @@ bool FormWindow::focusNextPrevChild(bool pNext) {
 }
 
 void FormWindow::FocusFallback() const {
-    ControlView *view = FirstView([](const ControlView &pView) { return pView.TakesFocusOfDisabled(); });
-    if (view != nullptr) {
-        view->Widget().setFocus(Qt::OtherFocusReason);
-    }
+    FirstView(
+        [](ControlView &pView) { return pView.TakeFocusOfDisabled(); }); // The first that takes it has it.
 }
 
 bool FormWindow::RefusesPress(const QPoint &pAt) {

@@ -186,16 +186,36 @@ void RecordList::PickByKey(int pRow) {
     }
 }
 
+bool RecordList::TakeFocusOfDisabled() {
+    setFocus(Qt::OtherFocusReason);
+    myAwaitsUser = true;
+    return true;
+}
+
+void RecordList::focusInEvent(QFocusEvent *pEvent) {
+    QTableView::focusInEvent(pEvent);
+    const auto reason = pEvent->reason();
+    const bool isBack = reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason ||
+                        reason == Qt::MenuBarFocusReason;
+    myAwaitsUser = myAwaitsUser && isBack;
+}
+
 void RecordList::keyPressEvent(QKeyEvent *pEvent) {
-    if (const std::optional<int> row = RowByKey(pEvent->key())) {
+    const int key = pEvent->key();
+    const bool decides = key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space;
+    if (decides && myAwaitsUser) {
+        return; // It was meant for the button. A pick would overwrite the fields.
+    }
+    if (const std::optional<int> row = RowByKey(key)) {
         PickByKey(*row);
-    } else if (pEvent->key() == Qt::Key_Left) {
+    } else if (key == Qt::Key_Left) {
         horizontalScrollBar()->triggerAction(QScrollBar::SliderSingleStepSub);
-    } else if (pEvent->key() == Qt::Key_Right) {
+    } else if (key == Qt::Key_Right) {
         horizontalScrollBar()->triggerAction(QScrollBar::SliderSingleStepAdd);
     } else {
         pEvent->setAccepted(PickByText(*pEvent));
     }
+    myAwaitsUser = myAwaitsUser && !pEvent->isAccepted();
 }
 
 bool RecordList::PickByText(const QKeyEvent &pEvent) {
@@ -241,6 +261,7 @@ bool RecordList::eventFilter(QObject *pWatched, QEvent *pEvent) {
 }
 
 void RecordList::mousePressEvent(QMouseEvent *pEvent) {
+    myAwaitsUser = false;
     const QModelIndex cell = indexAt(pEvent->position().toPoint());
     if (pEvent->button() == Qt::LeftButton && cell.isValid()) {
         myActs.Run([&] { myList.Pick(cell.row() + 1); });

@@ -14,12 +14,13 @@ public:
     RecordList(Acts &pActs, ListView &pList, QWidget &pParent);
     ~RecordList() override;
     QWidget &Widget() override { return *this; }
-    bool TakesFocusOfDisabled() const override { return true; }
+    bool TakeFocusOfDisabled() override;
 
 protected:
     Qt::FocusPolicy FocusPolicy() const override { return Qt::StrongFocus; }
     QRect PlaceOf() const override;
     void Show() override;
+    void focusInEvent(QFocusEvent *pEvent) override;
     void keyPressEvent(QKeyEvent *pEvent) override;
     void mousePressEvent(QMouseEvent *pEvent) override;
     void mouseDoubleClickEvent(QMouseEvent *pEvent) override;
@@ -48,6 +49,7 @@ private:
     RecordModel myModel;
     TypedSearch mySearch;
     bool myIsShowing = false;
+    bool myAwaitsUser = false; ///< has the focus of a disabled button, and the user has done nothing here yet
     int myShownRows = 0;
     int myShownColumns = 0;
     int myShownSelected = 0;
