@@ -35,6 +35,7 @@ void RecordList::Prepare() {
     setSelectionMode(SingleSelection);
     setTabKeyNavigation(false);
     setAutoScroll(false);
+    setAttribute(Qt::WA_InputMethodEnabled, false);
     setHorizontalScrollMode(ScrollPerPixel);
     setVerticalScrollMode(ScrollPerItem);
 
@@ -119,16 +120,24 @@ void RecordList::ShowRows() {
 }
 
 void RecordList::ShowSelection() {
-    myShownSelected = myList.SelectedIndex();
     QItemSelectionModel &selection = *selectionModel();
-    const auto rowAt = [this](int pRow) { return myModel.index(pRow - 1, 0); };
-    selection.setCurrentIndex(rowAt(myList.CurrentIndex()), QItemSelectionModel::NoUpdate);
+    if (myShownSelected != myList.SelectedIndex()) {
+        selection.clearCurrentIndex(); // A screen reader hears of the row again that was current already.
+    }
+    myShownSelected = myList.SelectedIndex();
+    ShowCurrent();
     if (myShownSelected == 0) {
         selection.clearSelection();
     } else {
-        selection.select(rowAt(myShownSelected),
+        selection.select(myModel.index(myShownSelected - 1, 0),
                          QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     }
+}
+
+void RecordList::ShowCurrent() {
+    // To assistive technology Qt's current cell has the focus, whether or not the list has it.
+    const int row = hasFocus() ? myList.CurrentIndex() : 0;
+    selectionModel()->setCurrentIndex(myModel.index(row - 1, 0), QItemSelectionModel::NoUpdate);
 }
 
 void RecordList::SelectedByOthers() {
@@ -193,11 +202,19 @@ bool RecordList::TakeFocusOfDisabled() {
 }
 
 void RecordList::focusInEvent(QFocusEvent *pEvent) {
-    QTableView::focusInEvent(pEvent);
+    QWidget::focusInEvent(pEvent); // QTableView's would choose a current row of its own.
+    viewport()->update();
     const auto reason = pEvent->reason();
     const bool isBack = reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason ||
                         reason == Qt::MenuBarFocusReason;
     myAwaitsUser = myAwaitsUser && isBack;
+    // Later: Qt still has to tell assistive technology of the list, and the cell comes after it.
+    QTimer::singleShot(0, this, [this] { ShowCurrent(); });
+}
+
+void RecordList::focusOutEvent(QFocusEvent *pEvent) {
+    QTableView::focusOutEvent(pEvent);
+    ShowCurrent();
 }
 
 void RecordList::keyPressEvent(QKeyEvent *pEvent) {
@@ -234,7 +251,7 @@ bool RecordList::PickByText(const QKeyEvent &pEvent) {
 
 void RecordList::paintEvent(QPaintEvent *pEvent) {
     QTableView::paintEvent(pEvent);
-    const int row = currentIndex().row();
+    const int row = myList.CurrentIndex() - 1;
     if (!hasFocus() || row < 0) {
         return;
     }

@@ -21,6 +21,7 @@ protected:
     QRect PlaceOf() const override;
     void Show() override;
     void focusInEvent(QFocusEvent *pEvent) override;
+    void focusOutEvent(QFocusEvent *pEvent) override;
     void keyPressEvent(QKeyEvent *pEvent) override;
     void mousePressEvent(QMouseEvent *pEvent) override;
     void mouseDoubleClickEvent(QMouseEvent *pEvent) override;
@@ -36,6 +37,7 @@ private:
     void ShowColumns();
     void ShowRows();
     void ShowSelection();
+    void ShowCurrent();
     void SelectedByOthers();
     void ScrollTo(int pRow);
     // Rows count from 1, as in the ListView.
