@@ -23,6 +23,20 @@ public:
         return state;
     }
 
+    // The entries and the line edit, as in Qt's own view. The entries lie in a window of their own, so they
+    // would count as nobody's.
+    int childCount() const override { return 2; }
+    QAccessibleInterface *child(int pIndex) const override {
+        QWidget *const parts[] = {myBox.view(), myBox.lineEdit()};
+        const bool isThere = pIndex >= 0 && pIndex < childCount();
+        return isThere ? QAccessible::queryAccessibleInterface(parts[pIndex]) : nullptr;
+    }
+    int indexOfChild(const QAccessibleInterface *pChild) const override {
+        const QObject *const part = pChild->object();
+        return part == myBox.view() ? 0 : part == myBox.lineEdit() ? 1 : -1;
+    }
+    QAccessibleInterface *focusChild() const override { return child(1); }
+
     QStringList actionNames() const override {
         return QStringList(showMenuAction()) + QAccessibleWidget::actionNames();
     }

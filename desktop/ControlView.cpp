@@ -24,6 +24,16 @@ QRect ControlView::PlaceOf() const {
     return PixelRect(myControl);
 }
 
+QString ControlView::Description() const {
+    return ToQt(myControl.AccessibleDescription());
+}
+
+void ControlView::Describe(QWidget &pWidget, const QString &pText) {
+    if (pWidget.accessibleDescription() != pText) {
+        pWidget.setAccessibleDescription(pText);
+    }
+}
+
 bool ControlView::MayTakeFocus() {
     auto *form = dynamic_cast<FormWindow *>(Widget().window());
     return form == nullptr || form->MayFocusMoveTo(&Widget());
@@ -36,7 +46,7 @@ void ControlView::ShowCommon() {
     widget.setVisible(myControl.Visible());
     widget.setToolTip(ToQt(myControl.ToolTipText()));
     widget.setAccessibleName(ToQt(myControl.AccessibleName(), mostShown));
-    widget.setAccessibleDescription(ToQt(myControl.AccessibleDescription()));
+    Describe(widget, Description());
     // Qt would move the focus from a disabled button to the next one. A second press of the space bar would
     // then act on that one.
     auto *form = dynamic_cast<FormWindow *>(widget.window());

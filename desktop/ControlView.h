@@ -39,6 +39,11 @@ protected:
     /// Updates what only this kind of control has, beyond place, state and names.
     virtual void Show() = 0;
 
+    /// What assistive technology reads out after the name.
+    virtual QString Description() const;
+    /// Gives pWidget a description. A screen reader reads it out each time, so it is given only if it is new.
+    static void Describe(QWidget &pWidget, const QString &pText);
+
     /// Whether the control that has the focus would let it move to this one. Assistive technology presses
     /// buttons and picks rows without moving the focus first.
     bool MayTakeFocus();

@@ -6,6 +6,7 @@
 #include <QListView>
 #include <QScopedValueRollback>
 #include <QScrollBar>
+#include <QTimer>
 #include <QWheelEvent>
 
 #include <algorithm>
@@ -140,17 +141,15 @@ void ComboBoxView::CaretMoved() {
 void ComboBoxView::Show() {
     const QScopedValueRollback showing(myIsShowing, true);
     lineEdit()->setAccessibleName(accessibleName());
-    ShowRefusal();
-    lineEdit()->setAccessibleDescription(accessibleDescription());
+    view()->setAccessibleName(accessibleName());
+    Describe(*lineEdit(), Description());
+    myFrame.setWidget(myBox.IsRefusing() ? this : nullptr);
     myEntries.Sync();
     ShowText();
 }
 
-void ComboBoxView::ShowRefusal() {
-    if (myBox.IsRefusing()) {
-        setAccessibleDescription(QStringLiteral("not one of the listed values"));
-    }
-    myFrame.setWidget(myBox.IsRefusing() ? this : nullptr);
+QString ComboBoxView::Description() const {
+    return myBox.IsRefusing() ? QStringLiteral("not one of the listed values") : ControlView::Description();
 }
 
 void ComboBoxView::ShowText() {
@@ -249,6 +248,15 @@ bool ComboBoxView::eventFilter(QObject *pWatched, QEvent *pEvent) {
             hidePopup();
             return true;
         }
+    }
+    if (pEvent->type() == QEvent::Hide) {
+        // To assistive technology the current entry of a closed list would have the focus still. Later: Qt is
+        // about to pick it.
+        QTimer::singleShot(0, this, [this] {
+            if (!view()->isVisible()) {
+                view()->selectionModel()->clear();
+            }
+        });
     }
     return QComboBox::eventFilter(pWatched, pEvent);
 }

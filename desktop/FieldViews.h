@@ -58,13 +58,13 @@ protected:
     void keyPressEvent(QKeyEvent *pEvent) override;
     void keyReleaseEvent(QKeyEvent *pEvent) override;
     void wheelEvent(QWheelEvent *pEvent) override;
+    QString Description() const override;
     bool eventFilter(QObject *pWatched, QEvent *pEvent) override;
 
 private:
     void PrepareEdit();
     void CaretMoved();
     void ShowText();
-    void ShowRefusal();
     /// Makes the popup wide enough for its entries.
     void WidenPopup();
     /// Steps through the entries, or opens their list. Returns whether the key does so.
