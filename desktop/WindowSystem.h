@@ -29,7 +29,11 @@ bool IsMouseHeld();
 /// Whether the user has chosen the system's high contrast, whose colours then go before the program's own.
 bool IsContrastHigh();
 
-/// Follows the user's choice of dark colours for programs. Call it before there is an application.
+/// What Qt is told of the window system to use, in the form of its option -platform; empty for its own
+/// choice.
+std::string_view PlatformOption();
+
+/// Follows the user's choice of dark colours for programs. Call it when there is an application.
 void FollowSystemColours();
 
 /// Makes the sound of a message box. pIsCritical: it has that icon.
@@ -43,6 +47,9 @@ bool ShowPlainMessage(std::string_view pText, std::string_view pTitle);
 #else
 inline bool IsContrastHigh() {
     return false;
+}
+inline std::string_view PlatformOption() {
+    return {};
 }
 inline void FollowSystemColours() {}
 inline void SoundMessage(bool /*pIsCritical*/) {}

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 #ifndef NOMINMAX
 #define NOMINMAX
@@ -22,15 +23,32 @@ HWND HandleOf(const QWidget &pWindow) {
     return reinterpret_cast<HWND>(pWindow.internalWinId());
 }
 
-/// Whether the user has chosen dark colours for programs. The system has no call for it.
-bool AreColoursDark() {
-    DWORD isLight = 1;
-    DWORD size = sizeof isLight;
-    const LSTATUS status =
-        RegGetValueW(HKEY_CURRENT_USER, L"Software\\Microsoft\\Windows\\CurrentVersion\\Themes\\Personalize",
-                     L"AppsUseLightTheme", RRF_RT_REG_DWORD, nullptr, &isLight, &size);
-    return status == ERROR_SUCCESS && isLight == 0;
-}
+/// Chooses the style anew when the user changes the system's colours while the program runs.
+class StyleByColours : public QObject {
+public:
+    using QObject::QObject;
+
+    void Choose() {
+        // The system draws Qt's native style, and has no dark drawing for it. High contrast has colours of
+        // its own, which that style takes.
+        constexpr int middle = 128; // of 255
+        const bool isDark =
+            !IsContrastHigh() && QApplication::palette().color(QPalette::Window).lightness() < middle;
+        if (std::exchange(myIsDark, isDark) != isDark) {
+            QApplication::setStyle(isDark ? QStringLiteral("fusion") : QStringLiteral("windowsvista"));
+        }
+    }
+
+    bool eventFilter(QObject *pWatched, QEvent *pEvent) override {
+        if (pWatched == qApp && pEvent->type() == QEvent::ApplicationPaletteChange) {
+            Choose();
+        }
+        return false;
+    }
+
+private:
+    bool myIsDark = false;
+};
 
 /// As much of a UTF-8 text as there is room for. It takes no memory of its own.
 struct WideText {
@@ -69,13 +87,14 @@ bool IsContrastHigh() {
            (contrast.dwFlags & HCF_HIGHCONTRASTON) != 0;
 }
 
+std::string_view PlatformOption() {
+    return "windows:darkmode=2"; // Frames and colours are dark while the user wants programs to be.
+}
+
 void FollowSystemColours() {
-    // Qt's native style is drawn by the system, which has no dark drawing for it. High contrast has colours
-    // of its own, which that style takes.
-    if (AreColoursDark() && !IsContrastHigh() && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
-        qputenv("QT_QPA_PLATFORM", "windows:darkmode=2");
-        QApplication::setStyle(QStringLiteral("fusion"));
-    }
+    auto *style = new StyleByColours(qApp);
+    style->Choose();
+    qApp->installEventFilter(style);
 }
 
 void SoundMessage(bool pIsCritical) {

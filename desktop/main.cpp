@@ -36,13 +36,15 @@ int main(int argc, char *argv[]) {
     os::LetCallsFail();
     const std::optional<std::string> line = os::CommandLine();
     const std::string command = line ? *line : CommandText(os::ProgramWords(argc, argv));
-    FollowSystemColours();
 
     // Qt must not see the command line: it would take the words that it knows.
     std::string name(versionRecord::productName);
-    char *words[] = {name.data(), nullptr};
-    int wordCount = 1;
+    std::string option = "-platform";
+    std::string platform(PlatformOption());
+    char *words[] = {name.data(), option.data(), platform.data(), nullptr};
+    int wordCount = platform.empty() ? 1 : 3;
     const Application application(wordCount, words);
+    FollowSystemColours();
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setDesktopFileName(QStringLiteral("example.norvo.EditDat"));
     QApplication::setWindowIcon(ProgramIcon());
