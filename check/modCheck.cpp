@@ -5,6 +5,7 @@
 #include "check/SpecCheck.h"
 #include "data/Switches.h"
 #include "system/Files.h"
+#include "system/Memory.h"
 
 #include <algorithm>
 #include <memory>
@@ -74,24 +75,30 @@ int CheckData(const Request &pRequest, const SpecCheck *pSpec, std::ostream &pOu
     }
     Findings findings(*pRequest.datFile);
     CompareWithEditor(meant, editor, wanted, findings);
-    std::string copyFault;
-    std::string copyLine;
+    std::optional<CleanCopy> copy;
     if (pRequest.newFile) {
-        CleanCopy copy(meant, pRequest.fmt);
+        copy.emplace(meant, pRequest.fmt);
         if (isRefused) {
-            copy.Refuse("the editor refuses the specification");
+            copy->Refuse("the editor refuses the specification");
         }
-        copy.Write(*pRequest.newFile);
-        copyFault = copy.Fault();
-        if (copyFault.empty()) {
-            copy.Report(findings);
-            copyLine = RecordsLine(*pRequest.newFile, copy.Rows().size(), copy.Rows().size());
-        }
+        copy->Write(*pRequest.newFile);
     }
-    findings.Print(pOut);
-    pOut << copyLine << RecordsLine(*pRequest.datFile, meant.records, isRefused ? 0 : editor.shown);
-    if (!copyFault.empty()) {
-        pErrors << *pRequest.newFile << ": not written: " << copyFault << '\n';
+    const bool isCopied = copy && copy->Fault().empty();
+    const auto print = [&] {
+        if (isCopied) {
+            copy->Report(findings);
+        }
+        findings.Print(pOut);
+        pOut << (isCopied ? RecordsLine(*pRequest.newFile, meant.records, meant.records) : "")
+             << RecordsLine(*pRequest.datFile, meant.records, isRefused ? 0 : editor.shown);
+    };
+    RunOrUndo(print, [&] {
+        if (isCopied) { // Without memory to say so there is no copy.
+            os::RemoveFile(*pRequest.newFile);
+        }
+    });
+    if (copy && !isCopied) {
+        pErrors << *pRequest.newFile << ": not written: " << copy->Fault() << '\n';
         return statusImpossible;
     }
     return findings.Of(Kind::Lost) + findings.Of(Kind::Changed) > 0 ? statusFound : statusGood;
