@@ -54,7 +54,7 @@ void FormWindow::FocusMoved(const QWidget *pNow) {
         myFocused = view;
     } else {
         // Assistive technology moves the focus without asking. Put it back later: Qt is still moving it.
-        QTimer::singleShot(0, this, [this] { myFocused->Widget().setFocus(Qt::OtherFocusReason); });
+        QMetaObject::invokeMethod(&myFocused->Widget(), "setFocus", Qt::QueuedConnection);
     }
 }
 

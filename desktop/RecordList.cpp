@@ -8,7 +8,6 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QScopedValueRollback>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -17,12 +16,10 @@ RecordList::RecordList(Acts &pActs, ListView &pList, QWidget &pParent)
     : QTableView(&pParent), ControlView(pActs, pList), myList(pList), myModel(pList) {
     setModel(&myModel);
     Prepare();
-    connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
-        if (!myIsShowing) { // Later: Qt is still changing its selection.
-            QMetaObject::invokeMethod(
-                this, [this] { SelectedByOthers(); }, Qt::QueuedConnection);
-        }
-    });
+    // Later: Qt is still changing its selection.
+    connect(
+        selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] { SelectedByOthers(); },
+        Qt::QueuedConnection);
 }
 
 RecordList::~RecordList() {
@@ -72,7 +69,6 @@ QRect RecordList::PlaceOf() const {
 }
 
 void RecordList::Show() {
-    const QScopedValueRollback showing(myIsShowing, true);
     if (myShownRows != myList.RowsRevision() || myModel.columnCount() != myList.ColumnHeaders.Count()) {
         ShowRows();
     } else {
@@ -149,7 +145,6 @@ void RecordList::SelectedByOthers() {
     if (row > 0 && row <= myList.ListItems.Count() && MayTakeFocus()) {
         myActs.Run([&] { myList.Pick(row); });
     }
-    const QScopedValueRollback showing(myIsShowing, true);
     ShowSelection(); // If nothing was picked, this restores the runtime's selection.
 }
 

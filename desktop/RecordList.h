@@ -38,6 +38,8 @@ private:
     void ShowRows();
     void ShowSelection();
     void ShowCurrent();
+    /// Picks the row that Qt shows as selected if the runtime has another one: assistive technology selects
+    /// so.
     void SelectedByOthers();
     void ScrollTo(int pRow);
     // Rows count from 1, as in the ListView.
@@ -50,7 +52,6 @@ private:
     ListView &myList;
     RecordModel myModel;
     TypedSearch mySearch;
-    bool myIsShowing = false;
     bool myAwaitsUser = false; ///< has the focus of a disabled button, and the user has done nothing here yet
     int myShownRows = 0;
     int myShownColumns = 0;
