@@ -21,8 +21,8 @@ RealWindow::RealWindow() {
     cmdAdd.Move(0, 2400, 840, 360);
     cmdAdd.Caption("&Add");
     cmdAdd.Cancel(true);
-    name.Move(0, 0, 1500, 315);
-    fruit.Move(1500, 0, 1500, 315);
+    name.Move(0, 0, 1507, 315);
+    fruit.Move(1507, 0, 1508, 315);
     fruit.AccessibleName("Fruit");
     fruit.AccessibleDescription("listed");
     list.Move(0, 600, 5700, 1700);

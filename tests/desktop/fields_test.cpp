@@ -1,5 +1,4 @@
 // Keys, and what the fields of the real window do with the texts that they get.
-#include "desktop/TextCodec.h"
 #include "tests/desktop/RealWindow.h"
 
 #include <QAbstractItemView>
@@ -26,7 +25,6 @@ TEST_F(Fields, PickByTheArrowsAndFromTheirList) {
         EXPECT_EQ(fruit.Text() + box->currentText().toStdString(), picked + picked) << text << " " << keys;
         EXPECT_FALSE(box->view()->isVisible()) << text << " " << keys;
     }
-    EXPECT_EQ(acts, "") << "the form has no default button";
     fruit.AddItem(std::string(40, 'w'));
     Sync();
     box->showPopup();
@@ -41,7 +39,7 @@ TEST_F(Fields, CompleteWhenAKeyThatTypesIsReleased) {
         Sync();
         box->lineEdit()->setText("b"); // as an input method does
         QTest::simulateEvent(window->windowHandle(), false, pKey, {}, "", false);
-        return fruit.Text() == "Banana";
+        return fruit.Text() == "Banana" && box->lineEdit()->cursorPosition() == 1;
     };
     bool isTyping = true;
     for (const char *key :
@@ -127,8 +125,6 @@ TEST_F(Fields, HoldWhatIsTypedPastedAndTooLongToEdit) {
             << before.size() << " " << keys << " " << name.Text().substr(0, 30) << " "
             << fruit.Text().substr(0, 30);
     }
-    const std::string face = "\xF0\x9F\x98\x80";
-    EXPECT_EQ(ToQt(face + face, 3), ToQt(face)) << "never half a character";
 }
 
 /// A key held down also sends presses and releases, marked as repeats. On a busy machine those of X11 arrive

@@ -40,7 +40,6 @@ TEST_F(Records, ArePickedByTheMouseWhateverElseIsHeld) {
     QTest::mouseRelease(handle, Qt::LeftButton, {}, area.mapTo(window, Middle(3)));
     Click(area, Middle(3), {}, Qt::RightButton);
     EXPECT_EQ(acts, "2 2 3 1 ") << "neither a drag nor the other button picks";
-    EXPECT_EQ(table->selectionModel()->selectedRows(), QModelIndexList{table->model()->index(0, 0)});
     QTest::mouseDClick(handle, Qt::LeftButton, {}, area.mapTo(window, Middle(2)));
     EXPECT_EQ(acts, "2 2 3 1 2 2 ") << "two quick clicks may be on two rows";
 }
@@ -125,9 +124,6 @@ TEST_F(Records, StandInColumnsThatKeepTheirSum) {
     EXPECT_EQ(table->columnViewportPosition(75), 365);
     EXPECT_TRUE(QTest::qWaitFor([&] { return !table->horizontalScrollBar()->isVisible(); }))
         << "there is just room";
-    list.ColumnHeaders.Width(1, 300);
-    Sync();
-    EXPECT_EQ(table->columnWidth(0), 20);
 }
 
 TEST_F(Records, KeepEachTextInItsCell) {
@@ -150,6 +146,10 @@ TEST_F(Records, KeepEachTextInItsCell) {
     list.SelectedIndex(2);
     Sync();
     EXPECT_EQ(Cell(2).pixelColor(1, 1), table->palette().color(QPalette::Highlight));
+    const QColor mixed =
+        Cell(2).scaled(1, 1, Qt::IgnoreAspectRatio, Qt::SmoothTransformation).pixelColor(0, 0);
+    EXPECT_GT(mixed.lightness(), table->palette().color(QPalette::Highlight).lightness())
+        << "with white text";
 }
 
 using Window = RealWindow;
@@ -180,15 +180,18 @@ TEST_F(Window, ShowsFromTheStartWhatTheKeysActOn) {
     Keys("Alt+A Esc");
     EXPECT_EQ(acts, "Add Add ");
     cmdAdd.Enabled(false);
-    form.Caption("a [*] b");
+    cmdAdd.Caption("");
+    cmdAdd.Shows(CommandButton::Picture::TriangleUp);
     Sync();
+    EXPECT_NE(Screen(*addButton).pixelColor(31, 14), Screen(*addButton).pixelColor(31, 9))
+        << "broad below, a tip above";
     EXPECT_TRUE(table->hasFocus()) << "the next press must not act on the next button";
-    EXPECT_EQ(window->windowHandle()->title(), "a [*] b");
 }
 
 TEST_F(Window, KeepsItsLeastSizeAndFollowsTheWindowSystem) {
     const QSize least = window->size();
     EXPECT_EQ(least.width(), 400);
+    EXPECT_EQ(box->geometry(), QRect(100, 0, 101, 21)) << "neighbours meet";
     window->resize(least + QSize(90, 60));
     EXPECT_EQ(QSizeF(form.ClientWidth(), form.ClientHeight()), QSizeF(6000 + 90 * 15, 3000 + 60 * 15));
     EXPECT_EQ(window->minimumSize(), QSize(0, 0)) << "nothing limits the drag";
@@ -234,7 +237,8 @@ TEST_F(Window, OfTheAboutBoxIsLightAndComesBack) {
 }
 
 TEST_F(Window, LetsNothingThroughUnderABoxAndShowsWhatIsDoneSoFar) {
-    Message message{{}, MessageButtons::Ok, ""};
+    const std::string prompt = "<b>" + std::string(9000, 'a') + "why";
+    Message message{prompt, MessageButtons::Ok, ""};
     int key = Qt::Key_Escape;
     cmdAdd.Click.Connect([&] {
         cmdAdd.Caption("Update");
@@ -249,8 +253,6 @@ TEST_F(Window, LetsNothingThroughUnderABoxAndShowsWhatIsDoneSoFar) {
             nameEdit->setText("kept");
             QTest::keyClick(&asked, static_cast<Qt::Key>(key));
         });
-        const std::string prompt = "<b>" + std::string(9000, 'a') + "why";
-        message.prompt = prompt;
         acts += desktop.ShowMessage(message) == MessageAnswer::Ok ? "OK " : "Cancel ";
     });
     for (const auto one : {MessageButtons::Ok, MessageButtons::CriticalStop, MessageButtons::OkAndCancel}) {

@@ -49,10 +49,10 @@ def session(d, share):
     d.key("alt+h", "a")
     about = d.focus("About " + TITLE)
     assert "_NET_WM_STATE_SKIP_TASKBAR" in desk.run("xprop", "-id", about, "_NET_WM_STATE")
-    for text in ("NorvoEditDat", "1.00.0020", "Easily edit data files."):
-        d.find("label", text)
+    d.find("label", "1.00.0020")
     d.click(d.find("label", "\xa9 2026 the authors"), times=2)
     d.expect(d.opened, [page, "https://norvo.example/"], "the link handed to the desktop")
+    desk.run("xdotool", "click", "3")
     d.key("Return")
     d.focus(TITLE)
     d.key("alt+f", "x")
@@ -60,7 +60,7 @@ def session(d, share):
     d.find("label", "Are you sure?")
     d.key("Return")
     assert d.ends() == (0, ""), d.ends()
-    assert len(d.opened()) == 2, "a double click opened the link twice"
+    assert len(d.opened()) == 2, "the right button or a double click opened the link"
 
 
 desk.main(session)
