@@ -1,10 +1,10 @@
 #pragma once
 /// The editor without a screen: the main window, loaded for the limit table and ready for the acts of a user.
 #include "app/frmMain.h"
+#include "bench/NoDesktop.h"
 #include "bench/Tables.h"
 #include "forms/Runtime.h"
 #include "help/frmAbout.h"
-#include "tests/support/NoDesktop.h"
 
 class Editor {
 public:

@@ -1,10 +1,10 @@
 /// What the user waits for between two keys, and while the window grows: the completion of what is typed, the
 /// check of a text that is left, and the placing of the fields.
+#include "bench/NoDesktop.h"
 #include "bench/Passes.h"
 #include "forms/ComboBox.h"
 #include "forms/Controls.h"
 #include "forms/Runtime.h"
-#include "tests/support/NoDesktop.h"
 #include "ui/clsCombo.h"
 #include "ui/clsLayout.h"
 

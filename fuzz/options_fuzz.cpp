@@ -1,11 +1,11 @@
 /// Option strings, on a form that grows and shrinks. The first four bytes are the growth in width and height,
 /// the rest is the option string. The control moves by the shares that strtod reads, or stays when its string
 /// is unfit. Its neighbour follows its own string, whatever the first one is.
+#include "bench/NoDesktop.h"
 #include "forms/Controls.h"
 #include "forms/Form.h"
 #include "forms/Runtime.h"
 #include "fuzz/FuzzSupport.h"
-#include "tests/support/NoDesktop.h"
 #include "ui/clsLayout.h"
 
 #include <algorithm>

@@ -8,19 +8,14 @@ TEST(GetWords, SplitsALineByItsCommasAndQuotes) {
     // with blanks between them. An LF inside quotes is an ordinary character. In front of a word it belongs
     // to the word; anywhere else it separates words as a comma does.
     // clang-format off
-    const std::pair<const char *, const char *> lines[] = {
-        {"a,b", "|a|b"},            {" a b , c ", "|a b|c"},    {"a,,b", "|a||b"},
-        {",a", "||a"},              {R"("a,b",c)", "|a,b|c"},   {R"("a""b")", R"(|a"b)"},
-        {R"("""")", R"(|")"},       {R"("")", "|"},             {R"("","")", "||"},
-        {R"("a" ,b)", "|a|b"},      {R"(a"b,c)", R"(|a"b|c)"},  {"\ta\t,b", "|\ta\t|b"},
-        {R"("  a b ")", "|a b"},    {R"("a" "b")", R"(|a" b)"}, {R"("a"" " ,b)", R"(|a"|b)"},
-        {"\"a\nb\",c", "|a\nb|c"},  {"a\nb", "|a|b"},           {"\"a\"\nb", "|a|b"},
-        {"a,\nb", "|a|\nb"},        {"", ""},                   {"   ", ""},
-        {",", ""},                  {"a,", ""},                 {"a, ", ""},
-        {"\"a", ""},                {"\"a\"b,c", ""},           {"\"a\"\t", ""},
-        {"a\n", ""},                {"a,\"", ""},               {"\"a\"\"", ""}};
-    // clang-format on
-    for (const auto &[line, wanted] : lines) {
+    for (const auto &[line, wanted] : {
+             std::pair("a,b", "|a|b"), {" a b , c ", "|a b|c"}, {"a,,b", "|a||b"}, {",a", "||a"}, {R"("a,b",c)", "|a,b|c"},
+             {R"("a""b")", R"(|a"b)"}, {R"("""")", R"(|")"}, {R"("")", "|"}, {R"("","")", "||"}, {R"("a" ,b)", "|a|b"},
+             {R"(a"b,c)", R"(|a"b|c)"}, {"\ta\t,b", "|\ta\t|b"}, {R"("  a b ")", "|a b"}, {R"("a" "b")", R"(|a" b)"},
+             {R"("a"" " ,b)", R"(|a"|b)"}, {"\"a\nb\",c", "|a\nb|c"}, {"a\nb", "|a|b"}, {"\"a\"\nb", "|a|b"},
+             {"a,\nb", "|a|\nb"}, {"", ""}, {"   ", ""}, {",", ""}, {"a,", ""}, {"a, ", ""}, {"\"a", ""}, {"\"a\"b,c", ""},
+             {"\"a\"\t", ""}, {"a\n", ""}, {"a,\"", ""}, {"\"a\"\"", ""}}) {
+        // clang-format on
         const TextRow words = modGetWords::GetWords(line);
         std::string text;
         for (int i = 1; i <= words.Count(); ++i) {

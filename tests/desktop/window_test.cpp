@@ -61,22 +61,6 @@ TEST_F(Records, ArePickedByTheKeysAndByAssistiveTechnology) {
     EXPECT_EQ(acts, wanted);
 }
 
-TEST_F(Records, AreFoundByTheirFirstLetters) {
-    list.ListItems(1).Text("\u00C4ra");
-    list.ListItems.Add({}).Text("apricot");
-    Sync();
-    table->setFocus();
-    // The same letter again goes on to the next record, a longer text may still fit the current one, and
-    // after a pause another search begins. "ax" is none.
-    for (const auto &[pause, keys] :
-         {std::pair{60'000, "Space a a a x Ctrl+B"}, {0, "b"}, {0, "b"}, {0, "a"}, {60'000, "a p Ä"}}) {
-        QApplication::setKeyboardInputInterval(pause);
-        QTest::qWait(2);
-        Keys(keys);
-    }
-    EXPECT_EQ(acts, "2 4 2 3 3 4 2 ");
-}
-
 TEST_F(Records, ShowWholeWhatIsCut) {
     list.ListItems(2).Text("<b>Apple & pear</b>");
     list.ColumnHeaders.Width(1, 300);

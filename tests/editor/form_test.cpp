@@ -1,78 +1,40 @@
 // The main window's form: its design, the fields that the specification adds, and its layout.
-#include "forms/ComboBox.h"
-#include "forms/Controls.h"
 #include "tests/support/Program.h"
 
-#include <sstream>
-
-namespace {
-
-/// The menu, the controls with tab index, place and size, and the columns of the list.
-std::string Design(const Program &pProgram) {
-    std::ostringstream text;
-    for (const auto &control : pProgram.Main().Controls()) {
-        if (const auto *const item = dynamic_cast<const MenuItem *>(control.get())) {
-            text << item->Caption() << " " << item->Shortcut() << ", ";
-        } else if (const auto *const c = dynamic_cast<const SizedControl *>(control.get())) {
-            const auto *const label = dynamic_cast<const Label *>(c);
-            text << c->Name() << (label == nullptr ? "" : label->Caption()) << " #" << c->TabIndex() << " "
-                 << c->Left() << " " << c->Top() << " " << c->Width() << " " << c->Height() << ", ";
-        }
-    }
-    for (int i = 1; i <= pProgram.List().ColumnHeaders.Count(); ++i) {
-        text << pProgram.List().ColumnHeaders(i).Text << " " << pProgram.List().ColumnHeaders(i).Width << " ";
-    }
-    return text.str();
-}
-
-} // namespace
-
-TEST(MainForm, FollowsItsSizeAndSnapsBackUnderTheMinimum) {
+TEST(MainForm, HasTheDesignAndTheFieldsOfTheSpecificationAndFollowsItsSize) {
     Program program;
-    program.Files().Write("NorvoEditDat.dat", CrLf("2,4\n\"\",12.5,0,-\n\" B \",50,1,x\n"));
-    const std::string menu = "&File , &Open Ctrl+O, E&xit , &Help , &Contents F1, &About , ";
-    const std::string atStart =
-        "cmdAdd #0 120 3240 720 360, cmdMoveUp #1 1800 3240 361 360, cmdDel #2 960 3240 720 359, "
-        "cmdMoveDown #3 2280 3240 361 360, cmdSave #4 6960 3240 840 360, cmdCancel #5 7920 3240 840 360, "
-        "ListView1 #6 120 720 8640 2400, " +
-        menu +
-        "lbl20  #32767 120 120 1070 240, cbo20 #32767 120 360 1070 315, "
-        "lbl21 B #32767 1200 120 4310 240, cbo21 #32767 1200 360 4310 315,  1036.8 B 4310 ";
-    EXPECT_EQ(Design(program.Start()), atStart);
-    program.Main().UserSizes(8880 + 1500, 3675 + 600, Form::stateNormal);
-    EXPECT_EQ(
-        Design(program),
-        "cmdAdd #0 120 3840 720 360, cmdMoveUp #1 1800 3840 361 360, cmdDel #2 960 3840 720 359, "
-        "cmdMoveDown #3 2280 3840 361 360, cmdSave #4 8460 3840 840 360, cmdCancel #5 9420 3840 840 360, "
-        "ListView1 #6 120 720 10140 3000, " +
-            menu +
-            "lbl20  #32767 120 120 1265 240, cbo20 #32767 120 360 1265 315, "
-            "lbl21 B #32767 1380 120 5060 240, cbo21 #32767 1380 360 5060 315,  1216.8 B 5060 ");
-    for (const int state : {Form::stateMinimized, Form::stateNormal}) {
-        program.Main().UserSizes(8880 - 500, 3675 - 90, state);
-        const float sides = program.Main().ClientWidth() + program.Main().ClientHeight();
-        EXPECT_EQ(sides, state == Form::stateNormal ? 8880 + 3675 : 8380 + 3585);
-        EXPECT_EQ(Design(program), atStart);
-    }
-}
-
-TEST(MainForm, TakesListsFromTheCurrentFolderFirst) {
+    program.files.Write("NorvoEditDat.dat",
+                        CrLf("4,4\n\"\",12.5,0,-\n\" B \",50,1,cities.txt\nC,21,0,kinds.txt\nD,9,1,none\n"));
+    program.files.Write("current/cities.txt", "Oslo"); // The current folder comes first.
+    const auto looks = [&] { return LooksOf(program.Main()) + ColumnsOf(program.List()); };
+    const auto size = [&](float pWidth, float pHeight, int pState) {
+        program.Act([&] { program.Main().UserSizes(pWidth, pHeight, pState); });
+        return program.Main().ClientWidth() + program.Main().ClientHeight();
+    };
     const std::filesystem::path before = std::filesystem::current_path();
-    const TemporaryFolder current;
-    std::filesystem::current_path(current.Path());
-    current.Write("cities.txt", "Oslo, N \r\n\r\n Rom\"e\nX\rOslo, N ");
-    current.Write("kinds.txt", "");
-    Program program;
+    std::filesystem::current_path(program.files.File("current"));
     program.Start();
     std::filesystem::current_path(before);
-    std::string lists;
-    for (const char *name : {"cbo21", "cbo22"}) {
-        const auto &box = dynamic_cast<const ComboBox &>(program.Main().Controls(name));
-        for (int i = 0; i < box.ListCount(); ++i) {
-            lists += box.List(i) + "/";
-        }
-        lists += box.AccessibleDescription() + ";";
-    }
-    // The second list is empty. Its field takes any text, so it has no description.
-    EXPECT_EQ(lists, "Oslo, N // Rom\"e\nX/Oslo, N /one of the listed values;;");
+    const std::string atStart = looks();
+    // clang-format off
+    EXPECT_EQ(atStart, "cDlg / cmdAdd 0 120 3240 720 360 1 Y=1 Add  0 0 0 / cmdMoveUp 1 1800 3240 361 360 0 Y=1  Move Up 1 0 0 / "
+        "cmdDel 2 960 3240 720 359 0 Y=1 Delete  0 0 0 / cmdMoveDown 3 2280 3240 361 360 0 Y=1  Move Down 2 0 0 / "
+        "cmdSave 4 6960 3240 840 360 0 X=1 Y=1 Save &As  0 0 0 / cmdCancel 5 7920 3240 840 360 1 X=1 Y=1 Cancel  0 0 1 / "
+        "ListView1 6 120 720 8640 2400 1 H=1 W=1 Records 1 0 0 0 / mnuFile &File  1 / mnuFileOpen &Open Ctrl+O 1 / "
+        "mnuFileExit E&xit  1 / mnuHelp &Help  1 / mnuHelpContents &Contents F1 1 / mnuHelpAbout &About  1 / "
+        "lbl20 32767 120 120 1070 240 1 X=0/100 W=13/100   0 0 / cbo20 32767 120 360 1070 315 1 X=0/100 W=13/100   / "
+        "lbl21 32767 1200 120 4310 240 1 X=12/100 W=50/100  B 0 0 / "
+        "cbo21 32767 1200 360 4310 315 1 X=12/100 W=50/100 B  one of the listed values 1 -1 0 0 0 / "
+        "lbl22 32767 5520 120 1804 240 1 X=62/100 W=21/100  C 0 0 / cbo22 32767 5520 360 1804 315 1 X=62/100 W=21/100 C   3 -1 0 0 0 / "
+        "lbl23 32767 7334 120 768 240 1 X=83/100 W=9/100  D 0 0 / cbo23 32767 7334 360 768 315 1 X=83/100 W=9/100 D   0 -1 0 0 0 / "
+        " 1036.8 B 4320 C 1814.4 D 767.6 ");
+    EXPECT_EQ(size(8880 + 1500, 3675 + 600, Form::stateNormal), 8880 + 1500 + 3675 + 600);
+    EXPECT_EQ(LookOf(program.Main().Controls("cmdSave")) + LookOf(program.Main().Controls("lbl22")) + ColumnsOf(program.List()),
+        "cmdSave 4 8460 3840 840 360 0 X=1 Y=1 Save &As  0 0 0 lbl22 32767 6450 120 2119 240 1 X=62/100 W=21/100  C 0 0 "
+        " 1216.8 B 5070 C 2129.4 D 902.6 ");
+    // clang-format on
+    EXPECT_EQ(size(8880 - 500, 3675 - 90, Form::stateMinimized), 8380 + 3585);
+    EXPECT_EQ(looks(), atStart);
+    EXPECT_EQ(size(8880 - 500, 3675 - 90, Form::stateNormal), 8880 + 3675);
+    EXPECT_EQ(looks(), atStart);
 }

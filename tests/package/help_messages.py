@@ -16,9 +16,7 @@ NO_MESSAGES = {
     "/100 W=",  # a layout rule
     "AppCmd: unrecognized cmd (%s)",  # a trace of debug builds
 }
-
-
-ROOMS = ("app", "data", "editor", "platform", "text", "ui")
+ROOMS = ("app", "data", "editor", "forms", "system", "ui")
 
 
 def plain(text):
@@ -28,20 +26,16 @@ def plain(text):
 def texts(source):
     """The pieces of text with a blank in them in a C++ source, escapes made plain."""
     for line in source.read_text(encoding="utf-8").splitlines():
-        if line.lstrip().startswith(("#include", "//")):
-            continue
-        line = re.sub(r"'(\\.|[^'\\])'", "", line)  # the character constant '"' begins no text
+        line = re.sub(r"'(\\.|[^'\\])'|^\s*(#include|//).*", "", line)  # the character constant '"' begins no text
         for literal in re.findall(r'"((?:[^"\\]|\\.)*)"', line):
-            text = plain(re.sub(r"\\[nr]", " ", literal).replace('\\"', '"'))
-            if " " in text and text not in NO_MESSAGES:
-                yield text
+            yield plain(re.sub(r"\\[nr]", " ", literal).replace('\\"', '"'))
 
 
 top = Path(sys.argv[1])
-page = (top / "share/Help/NorvoEditDat.html").read_text(encoding="utf-8")
-page = plain(html.unescape(re.sub(r"<[^>]+>", "", page)))
-found = {room: [text for source in sorted((top / room).glob("*.cpp")) if not source.stem.endswith("_design")
-                for text in texts(source)] for room in ROOMS}
-missing = [f"{room}/: {text}" for room in ROOMS for text in found[room] or ["(no text found)"] if text not in page]
-if missing:
-    sys.exit("The help page lacks these texts of messages:\n" + "\n".join(missing))
+page = plain(html.unescape(re.sub(r"<[^>]+>", "", (top / "share/Help/NorvoEditDat.html").read_text(encoding="utf-8"))))
+for room in ROOMS:
+    found = {text for source in (top / room).glob("*.cpp") if not source.stem.endswith("_design")
+             for text in texts(source) if " " in text} - NO_MESSAGES
+    for text in found or {"(no text found)"}:
+        if text not in page:
+            sys.exit(f"The help page lacks this text of a message in {room}/: {text}")

@@ -1,5 +1,7 @@
 #include "tests/support/Scarcity.h"
 
+#include <algorithm>
+#include <cerrno>
 #include <cstdlib>
 #include <new>
 
@@ -22,3 +24,19 @@ void operator delete(void *pBlock) noexcept {
 void operator delete(void *pBlock, std::size_t /*pSize*/) noexcept {
     std::free(pBlock);
 }
+
+#ifdef __linux__
+#include <sys/syscall.h>
+#include <unistd.h>
+
+extern "C" ssize_t read(int pNumber, void *pRoom, size_t pSize) {
+    if (Scarcity::readable == 0) {
+        errno = EIO;
+        return -1;
+    }
+    const std::size_t size =
+        std::min(pSize, static_cast<std::size_t>(Scarcity::readable)); // -1 is a huge number
+    Scarcity::readable -= Scarcity::readable > 0 ? static_cast<long>(size) : 0;
+    return syscall(SYS_read, pNumber, pRoom, size);
+}
+#endif

@@ -2,7 +2,7 @@
 /// The desktop of the tests. A test queues beforehand which messages and file dialogs it expects and how the
 /// user answers them. A message or dialog that wasn't expected, that comes in another order or with another
 /// text, fails the test. So does one that never comes.
-#include "forms/Desktop.h"
+#include "forms/Runtime.h"
 #include "tests/support/Scarcity.h"
 
 #include <gtest/gtest.h>
@@ -25,59 +25,50 @@ public:
     }
 
     /// Expects this message next, compared whole. The user answers it by pAnswer.
-    void Expect(const Message &pMessage, MessageAnswer pAnswer = MessageAnswer::Ok) {
-        myScript.push_back({InWords(pMessage), {}, pAnswer});
+    void Expect(const std::string &pPrompt, const std::string &pTitle,
+                MessageButtons pButtons = MessageButtons::Ok, MessageAnswer pAnswer = MessageAnswer::Ok) {
+        myScript.push_back({InWords({pPrompt, pButtons, pTitle}), {}, pAnswer});
     }
     /// Expects a file dialog next. The user chooses pPath, or dismisses the dialog without one.
-    void ExpectOpen(const std::optional<std::string> &pPath) { myScript.push_back({toOpen, pPath}); }
-    void ExpectSave(const std::optional<std::string> &pPath) { myScript.push_back({toSave, pPath}); }
+    void ExpectOpen(const std::optional<std::string> &pPath) { myScript.push_back({"open", pPath}); }
+    void ExpectSave(const std::optional<std::string> &pPath) { myScript.push_back({"save", pPath}); }
 
-    /// From now on any message may come, and is answered by OK. Told has their texts, each with "|" after it.
-    void TakeAnyMessage() { myTakesAny = true; }
-    const std::string &Told() const { return myTold; }
-
-    /// All requests for file dialogs so far.
-    const std::vector<FileDialogRequest> &Dialogs() const { return myDialogs; }
-    /// The forms on screen, the one shown last at the end.
-    const std::vector<Form *> &Shown() const { return myShown; }
-    /// All documents and addresses opened so far.
-    const std::vector<std::string> &Targets() const { return myTargets; }
+    bool takesAnyMessage = false;     ///< rather than the next one of the script, and answers it by OK
+    std::string told;                 ///< the texts of these messages, each with "|" after it
+    std::string asked;                ///< the last file dialog: folder|name|description|pattern
+    std::vector<Form *> shown;        ///< the forms on screen, the one shown last at the end
+    std::vector<std::string> targets; ///< the documents and addresses opened so far
 
     MessageAnswer ShowMessage(const Message &pMessage) override {
         Scarcity::granted = -1;
-        if (!myTakesAny) {
+        if (!takesAnyMessage) {
             return Take(InWords(pMessage)).answer;
         }
-        myTold.append(pMessage.prompt).append("|");
+        told.append(pMessage.prompt).append("|");
         myScript.clear(); // A dialog may not come now.
         return MessageAnswer::Ok;
     }
-    std::optional<std::string> ShowFileDialog(const Form & /*pForm*/,
-                                              const FileDialogRequest &pRequest) override {
-        myDialogs.push_back(pRequest);
-        return Take(pRequest.isSave ? toSave : toOpen).path;
+    std::optional<std::string> ShowFileDialog(const Form & /*pForm*/, const FileDialogRequest &p) override {
+        asked = p.folder + "|" + p.name + "|" + p.description + "|" + p.pattern;
+        return Take(p.isSave ? "save" : "open").path;
     }
     void ShowForm(Form &pForm) override {
         CloseForm(pForm);
-        myShown.push_back(&pForm);
+        shown.push_back(&pForm);
     }
-    void CloseForm(Form &pForm) override { std::erase(myShown, &pForm); }
-    void OpenTarget(const std::string &pTarget) override { myTargets.push_back(pTarget); }
+    void CloseForm(Form &pForm) override { std::erase(shown, &pForm); }
+    void OpenTarget(const std::string &pTarget) override { targets.push_back(pTarget); }
     [[noreturn]] void EndProcess(int pStatus) override { throw ProgramEnded{pStatus}; }
 
 private:
-    static constexpr const char *toOpen = "file dialog to open";
-    static constexpr const char *toSave = "file dialog to save";
-
     struct Step {
         std::string what; ///< the message or dialog in words, which are compared
         std::optional<std::string> path;
         MessageAnswer answer = MessageAnswer::Ok;
     };
 
-    static std::string InWords(const Message &pMessage) {
-        return "message \"" + std::string(pMessage.prompt) + "\", title \"" + std::string(pMessage.title) +
-               "\", buttons " + std::to_string(static_cast<int>(pMessage.buttons));
+    static std::string InWords(const Message &p) {
+        return std::string(p.title) + " (" + std::to_string(int(p.buttons)) + "): " + std::string(p.prompt);
     }
 
     Step Take(const std::string &pWhat) {
@@ -91,9 +82,12 @@ private:
     }
 
     std::deque<Step> myScript;
-    bool myTakesAny = false;
-    std::string myTold;
-    std::vector<FileDialogRequest> myDialogs;
-    std::vector<Form *> myShown;
-    std::vector<std::string> myTargets;
+};
+
+/// A form on that desktop, for what needs no more of the program.
+class OnAForm : public testing::Test {
+protected:
+    ScriptedDesktop myDesktop;
+    Runtime myRuntime{myDesktop, {}, ""};
+    Form &myForm = myRuntime.NewForm();
 };

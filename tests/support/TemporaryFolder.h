@@ -12,9 +12,7 @@
 #ifdef __linux__
 #include <csignal>
 #include <sys/resource.h>
-#endif
 
-#ifdef __linux__
 /// Runs pAct while no file can grow beyond pBytes.
 template <typename Act> void WithFileLimit(std::size_t pBytes, Act pAct) {
     std::signal(SIGXFSZ, SIG_IGN); // The program itself ignores it too.
