@@ -80,6 +80,7 @@ void FormWindow::Sync() {
 
 void FormWindow::Retire() {
     myIsReady = false;
+    myChecking.stop(); // The form may go before the window does.
     hide();
     deleteLater();
 }

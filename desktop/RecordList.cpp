@@ -150,6 +150,7 @@ void RecordList::SelectedByOthers() {
 }
 
 void RecordList::ScrollTo(int pRow) {
+    updateGeometries(); // A scroll bar that has come leaves the last row less room.
     const int left = horizontalScrollBar()->value();
     scrollTo(myModel.index(pRow - 1, 0), EnsureVisible);
     horizontalScrollBar()->setValue(left);
