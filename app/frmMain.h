@@ -1,6 +1,6 @@
 #pragma once
-/// The main window: its form, the dispatcher of application commands, and the handlers of its events. What the
-/// commands do is defined in editor/, in one file for each topic.
+/// The main window: its form, the dispatcher of application commands, and the handlers of its events. What
+/// the commands do is defined in editor/, in one file for each topic.
 #include "data/clsDatFile.h"
 #include "forms/ComboBox.h"
 #include "forms/CommonDialog.h"

@@ -14,8 +14,7 @@ void MeantCells::Begin(char pSeparator) {
 void MeantCells::Take(std::string_view pText) {
     myText = pText;
     for (; myAt < pText.size(); ++myAt) {
-        const char character = pText[myAt];
-        switch (myState) {
+        switch (const char character = pText[myAt]; myState) {
         case State::Before:
             if (character == '"') {
                 myHasBlanksAtEnds = myHasBlanksAtEnds || myAt > myCell.from;
@@ -31,10 +30,8 @@ void MeantCells::Take(std::string_view pText) {
             }
             break;
         case State::InQuotes:
-            if (character == '"') {
-                myCell.to = myAt;
-                myState = State::AtQuote;
-            }
+            myCell.to = myAt;
+            myState = character == '"' ? State::AtQuote : State::InQuotes;
             break;
         case State::AtQuote:
             if (character == '"') { // Two quotes stand for one.
