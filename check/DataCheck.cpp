@@ -16,50 +16,13 @@ std::string NotRead(std::size_t pLines) {
     return Counted(pLines, "line") + (pLines == 1 ? " is" : " are") + " not read";
 }
 
-/// The values of a table that their columns don't list, although they insist on listed ones.
-class UnlistedValues {
-public:
-    explicit UnlistedValues(const WantedColumns &pWanted) : myWanted(pWanted), myFound(pWanted.size()) {}
-
-    /// Looks at pRecord. pOrder says where each wanted column stands in it; empty when they stand as wanted.
-    void LookAt(const MeantRecord &pRecord, const std::vector<std::size_t> &pOrder) {
-        const FaultSet &faults = pRecord.faults;
-        if (faults.Has(OpenQuote) || faults.Has(TextAfterQuote) || faults.Has(Surplus)) {
-            return; // Nobody can tell which value is whose.
-        }
-        for (std::size_t col = 0; col < myWanted.size(); ++col) {
-            const std::string_view value =
-                pRecord.cells(static_cast<int>(pOrder.empty() ? col : pOrder[col]) + 1);
-            if (!myWanted[col].values.empty() && !myWanted[col].values.contains(LCase(value))) {
-                Tally &found = myFound[col][std::string(value)];
-                found.first = found.lines == 0 ? pRecord.line : found.first;
-                ++found.lines;
-            }
-        }
-    }
-
-    /// Adds a note for each value, at the first line that has it.
-    void Report(Findings &pFindings) const {
-        for (std::size_t col = 0; col < myFound.size(); ++col) {
-            for (const auto &[value, found] : myFound[col]) {
-                pFindings.Add(found.first, NotListed,
-                              {Quoted(myWanted[col].title), Quoted(value), Counted(found.lines, "record")});
-            }
-        }
-    }
-
-private:
-    const WantedColumns &myWanted;
-    std::vector<std::map<std::string, Tally>> myFound; ///< by column and value
-};
-
 /// Walks over the lines, as the editor reads them one after the other.
 class Walk {
 public:
     Walk(const MeantTable &pMeant, const EditorTable &pEditor, const WantedColumns &pWanted,
          Findings &pFindings)
         : myMeant(pMeant), myEditor(pEditor), myWanted(pWanted), myFindings(pFindings),
-          myIsDat(pEditor.fmt == clsDatFile::fmtDat), myUnlisted(pWanted) {}
+          myIsDat(pEditor.fmt == clsDatFile::fmtDat) {}
 
     void Run() {
         LookAtHead();
@@ -72,7 +35,11 @@ public:
         if (myIsDat) {
             ReportAnnounced();
         }
-        myUnlisted.Report(myFindings);
+        for (const auto &[place, found] : myUnlisted) {
+            const auto &[col, value] = place;
+            myFindings.Add(found.first, NotListed,
+                           {Quoted(myWanted[col].title), Quoted(value), Counted(found.lines, "record")});
+        }
         RequireAllShown();
     }
 
@@ -128,7 +95,7 @@ private:
         }
         LookAtBytes(pLine);
         LookAtFields(pLine);
-        myUnlisted.LookAt(pLine, myMeant.order);
+        LookUp(pLine);
         if (pLine.faults.Has(ManyRecords) && !myIsDat) {
             myFindings.Add(pLine.line, ManyRecords);
         }
@@ -180,6 +147,20 @@ private:
             Stop(pRecord.line, ManyColumns);
         } else if (pRecord.fields != myFields && (myIsDat || myRecords > 0)) {
             EndTable(pRecord.line, FieldCount, {Counted(pRecord.fields, "field"), std::to_string(myFields)});
+        }
+    }
+
+    /// Looks up the values of columns that insist on listed ones.
+    void LookUp(const MeantRecord &pRecord) {
+        const FaultSet &faults = pRecord.faults;
+        const bool isClear = !faults.Has(OpenQuote) && !faults.Has(TextAfterQuote) && !faults.Has(Surplus);
+        for (std::size_t col = 0; col < myWanted.size() && isClear; ++col) {
+            const std::size_t place = myMeant.order.empty() ? col : myMeant.order[col];
+            const std::string value(pRecord.cells(static_cast<int>(place) + 1));
+            if (!myWanted[col].values.empty() && !myWanted[col].values.contains(LCase(value))) {
+                Tally &found = myUnlisted[{col, value}];
+                found.first = found.lines++ == 0 ? pRecord.line : found.first;
+            }
         }
     }
 
@@ -263,13 +244,13 @@ private:
     const WantedColumns &myWanted;
     Findings &myFindings;
     bool myIsDat; ///< the file has the .dat form
-    UnlistedValues myUnlisted;
 
     // As far as the walk has come.
     std::size_t myRecords = 0;
     std::size_t myFields = 0;           ///< that the editor expects in a record
     std::size_t myFirstUnannounced = 0; ///< the line of the first record beyond the announced ones
-    bool myIsReading = true;            ///< the editor has read all lines so far as they were meant
+    std::map<std::pair<std::size_t, std::string>, Tally> myUnlisted; ///< by column and value
+    bool myIsReading = true; ///< the editor has read all lines so far as they were meant
 };
 
 } // namespace

@@ -13,52 +13,16 @@ enum class Kind {
     Note,    ///< worth knowing, nothing is lost
 };
 
-/// In the order in which those of one line are told.
+/// In the order in which those of one line are told. The catalogue says what each is.
 enum class Fault {
-    Utf16,
-    LfAlone,
-    Separator,
-    ColumnOrder,
-    Counts,
-    NotTaken,
-    NoSize,
-    Announced,
-    WrongColumns,
-    FirstLine,
-    ReadOtherwise,
-    BlankLine,
-    CommaAtEnd,
-    MarkBeforeQuote,
-    OpenQuote,
-    TextAfterQuote,
-    CrInQuotes,
-    FieldCount,
-    TooFew,
-    TooMany,
-    Surplus,
-    ManyRecords,
-    ManyColumns,
-    LineBreaks,
-    Blanks,
-    ByteOrderMark,
-    TitleOrder,
-    Title,
-    TitleCount,
-    NoCounts,
-    NotUtf8,
-    Nul,
-    NotListed,
-    BadSpecification,
-    TooWide,
-    NoList,
-    UnreadableList,
-    EmptyList,
-    EmptyEntry,
-    BlankEntry,
-    TwiceInList,
-    EntryWithBlanks,
-    InTheCopy,
+    // clang-format off
+    Utf16, LfAlone, Separator, ColumnOrder, Counts, NotTaken, NoSize, Announced, WrongColumns, FirstLine,
+    ReadOtherwise, BlankLine, CommaAtEnd, MarkBeforeQuote, OpenQuote, TextAfterQuote, CrInQuotes, FieldCount,
+    TooFew, TooMany, Surplus, ManyRecords, ManyColumns, LineBreaks, Blanks, ByteOrderMark, TitleOrder, Title,
+    TitleCount, NoCounts, NotUtf8, Nul, NotListed, BadSpecification, TooWide, NoList, UnreadableList, EmptyList,
+    EmptyEntry, BlankEntry, TwiceInList, EntryWithBlanks, InTheCopy,
     Count, ///< how many there are
+    // clang-format on
 };
 inline constexpr auto faultCount = static_cast<std::size_t>(Fault::Count);
 

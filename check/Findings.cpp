@@ -7,16 +7,7 @@ namespace {
 
 constexpr std::size_t mostShown = 20; // of one fault
 
-const char *Word(Kind pKind) {
-    switch (pKind) {
-    case Kind::Lost:
-        return "lost";
-    case Kind::Changed:
-        return "changed";
-    default:
-        return "note";
-    }
-}
+constexpr const char *kindWords[] = {": lost: ", ": changed: ", ": note: "};
 
 /// Texts of the file are part of findings. On a terminal its control characters could do anything.
 std::string OnOneLine(std::string pText) {
@@ -48,7 +39,7 @@ void Findings::Print(std::ostream &pTo) const {
     std::array<std::size_t, faultCount> printed{};
     for (const auto &[place, text] : myTexts) {
         const auto &[line, fault] = place;
-        const std::string word = std::string(": ") + Word(KindOf(fault)) + ": ";
+        const char *const word = kindWords[static_cast<std::size_t>(KindOf(fault))];
         const std::size_t count = Of(fault);
         std::size_t &number = printed[static_cast<std::size_t>(fault)];
         if (++number <= mostShown) {

@@ -7,8 +7,6 @@
 #include "text/Text.h"
 
 #include <algorithm>
-#include <cstdint>
-#include <cstring>
 #include <limits>
 #include <optional>
 #include <span>
@@ -20,26 +18,14 @@ using enum Fault;
 
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 
-/// How many bytes at the start of pText are ASCII; eight at a time, and so perhaps a few too few.
-std::size_t AsciiBytes(std::string_view pText) {
-    std::size_t at = 0;
-    for (std::uint64_t bytes = 0; at + sizeof bytes <= pText.size(); at += sizeof bytes) {
-        std::memcpy(&bytes, pText.data() + at, sizeof bytes);
-        if ((bytes & 0x8080808080808080) != 0) {
-            break;
-        }
-    }
-    return at;
-}
-
 bool IsUtf8(std::string_view pText) {
-    for (pText.remove_prefix(AsciiBytes(pText)); !pText.empty();) {
-        const CodePoint character = CodePointAt(pText, 0);
+    for (std::size_t at = 0; at < pText.size();) {
+        const bool isAscii = static_cast<unsigned char>(pText[at]) < 0x80; // Most are, and need no call.
+        const CodePoint character = isAscii ? CodePoint{0, 1, true} : CodePointAt(pText, at);
         if (!character.isValid) {
             return false;
         }
-        pText.remove_prefix(character.length);
-        pText.remove_prefix(character.length > 1 ? AsciiBytes(pText) : 0);
+        at += character.length;
     }
     return true;
 }
@@ -47,12 +33,9 @@ bool IsUtf8(std::string_view pText) {
 /// Whether a blank of pLine stands where it could be at the end of a cell. The loop has no branches, so that
 /// the compiler can take many bytes at a time.
 bool MayHaveBlanksAtEnds(std::string_view pLine) {
-    if (pLine.empty() || pLine.front() == ' ' || pLine.back() == ' ') {
-        return !pLine.empty();
-    }
     const auto isBorder = [](char pCharacter) { return (pCharacter == ',') | (pCharacter == '"'); };
     const char *const bytes = pLine.data();
-    unsigned char found = 0;
+    unsigned char found = pLine.starts_with(' ') || pLine.ends_with(' ') ? 1 : 0;
     for (std::size_t at = 1; at + 1 < pLine.size(); ++at) {
         const bool isAtEnd = isBorder(bytes[at - 1]) | isBorder(bytes[at + 1]);
         found = static_cast<unsigned char>(found | ((bytes[at] == ' ') & isAtEnd));

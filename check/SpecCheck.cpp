@@ -103,11 +103,6 @@ void SpecCheck::LookAtList(const std::string &pFile, WantedColumn &pColumn) {
     }
 }
 
-bool SpecCheck::IsLossy() const {
-    return std::any_of(myFindings.begin(), myFindings.end(),
-                       [](const Findings &pFindings) { return pFindings.Of(Kind::Lost) > 0; });
-}
-
 void SpecCheck::Print(std::ostream &pTo) const {
     for (const Findings &findings : myFindings) {
         findings.Print(pTo);

@@ -3,6 +3,7 @@
 #include "check/Findings.h"
 #include "check/WantedColumns.h"
 
+#include <algorithm>
 #include <deque>
 #include <iosfwd>
 #include <string>
@@ -21,7 +22,9 @@ public:
     /// How many columns the file was meant to describe.
     std::size_t Rows() const { return myRows; }
     /// Whether there is a finding of kind Lost, in the file or in one of its lists.
-    bool IsLossy() const;
+    bool IsLossy() const {
+        return std::ranges::any_of(myFindings, [](const Findings &pOne) { return pOne.Of(Kind::Lost) > 0; });
+    }
     void Print(std::ostream &pTo) const;
 
 private:
