@@ -5,12 +5,9 @@
 #include "tests/support/Scarcity.h"
 #include "tests/support/TemporaryFolder.h"
 
-#include <algorithm>
 #include <sstream>
 
 namespace {
-
-using namespace std::string_literals;
 
 std::string Replaced(std::string pText, const std::string &pOld, const std::string &pNew) {
     for (std::size_t at = 0; (at = pText.find(pOld, at)) != std::string::npos; at += pNew.size()) {
@@ -27,7 +24,7 @@ public:
         Write("spec", "2,4\r\n\"Name\",\"50\",\"0\",\"-\"\r\n\"City\",\"40\",\"1\",\"cities\"\r\n");
         Write("cities", "Ulm\r\nBonn\r\n");
         Write("twins", "3,4\r\nA,1,0,-\r\nA,1,0,-\r\nB,1,0,-\r\n");
-        Write("width", "1,4\r\nA,x,0,-\r\n");
+        Write("wide", "2,4\r\nA,40,1,:\r\nB, 60,0,-\r\n");
         Write("any", "2,4\r\nName,1,0,-\r\nCity,1,0,cities\r\n");
         Write("faulty", "2,4\r\nA,1,0,-\r\nB,1,0\r\n");
     }
@@ -105,7 +102,6 @@ TEST(DataCheck, SaysWhatTheEditorWouldNotShowOrWouldChange) {
 11: changed: blanks at the ends of cells are left out)"},
         {"/csv", "a,b|'c','d\ne'|\xFF, f|||", 1, 3, 3, R"(4: changed: blanks at the ends of cells are left out
 4: note: bytes that aren't UTF-8)"},
-        {"/csv", "", 0, 0, 0, ""},
         {"/csv", "|a|", 1, 1, 0,
          "1: lost: the line is blank, and with a first line without fields the editor ends with a message"},
         {"/csv", "a;b,c|d,e|", 0, 2, 2, ""},
@@ -113,12 +109,10 @@ TEST(DataCheck, SaysWhatTheEditorWouldNotShowOrWouldChange) {
          R"(1: lost: LF alone ends the file's 2 lines, so the editor reads them as one
 1: lost: semicolons separate the fields, and the editor takes them for text
 3: lost: 1 field, not 2, which would end the table too)"},
-        {"/csv", "a,b|c,d\ne,f| \ng,h|", 1, 4, 1,
-         R"(2: lost: LF alone ends this line and 1 more, and the editor reads such a line and the next as one
-4: lost: the line is blank, which would end the table too)"},
-        {"/csv", "@'a,b',c|d,e|", 1, 2, 1,
-         R"(1: changed: a byte-order mark stands at the start; the editor takes it for part of the text
-2: lost: 2 fields, not 3, so the table ends before it; 1 line is not read)"},
+        {"/csv", "a,b|c,d\ne,f| \ng,h|'i\nj,k\nl,m\n", 1, 7, 1,
+         R"(2: lost: LF alone ends this line and 4 more, and the editor reads such a line and the next as one
+4: lost: the line is blank, which would end the table too
+6: lost: a quote is left open, which would end the table too)"},
         {"/csv", "@'a, ''b''',c|", 1, 1, 0,
          R"(1: lost: a byte-order mark stands before a quote, and with a first line without fields the editor ends with a message
 1: changed: a byte-order mark stands at the start; the editor takes it for part of the text)"},
@@ -145,19 +139,20 @@ TEST(DataCheck, SaysWhatTheEditorWouldNotShowOrWouldChange) {
 2: lost: semicolons separate the fields, and the editor takes them for text)"},
         {"/csvh spec", " Name ,City|a,Bonn|", 1, 1, 1,
          "1: changed: blanks at the ends of cells are left out"},
-        {"/csvh spec", "@Name,Stadt,X|a,ulm|", 1, 1, 1,
+        {"/csvh spec", "@City,Name,X|a,ul\x07m|", 1, 1, 1,
          R"(1: changed: a byte-order mark stands before the first title; it is lost with the header line
-1: changed: the title of column 2 is "Stadt", and the specification's, which would be written, is "City"
-1: changed: the title of column 3 is "X", and the specification's, which would be written, is none)"},
+1: changed: the title of column 1 is "City", and the specification's, which would be written, is "Name"
+1: changed: the title of column 2 is "Name", and the specification's, which would be written, is "City"
+1: changed: the title of column 3 is "X", and the specification's, which would be written, is none
+2: note: "City" has "ul?m", which isn't in its list, in 1 record)"},
         {"/csvh spec", "Name|a,b,c|d,e|", 1, 2, 0,
          R"(1: changed: the title of column 2 is "", and the specification's, which would be written, is "City"
 2: lost: the first record has 3 fields and the specification has 2 columns, so the editor refuses the file
 3: note: "City" has "e", which isn't in its list, in 1 record)"},
         {"spec", "1,40000|a,Ulm|", 1, 1, 0,
-         "1: lost: the first line announces what no table can have, so the editor refuses the file. Is it "
-         "CSV? Then say /csv or /csvh."},
+         R"(1: lost: the first line announces what no table can have, so the editor refuses the file. Is it CSV? Then say /csv or /csvh.)"},
         {"/csv spec", "a;b,Ulm|", 0, 1, 1, ""},
-        {"/csv spec", "a;'Kiel'|b|", 1, 2, 0,
+        {"/csv spec", "a,1,2;'Kiel'|b|", 1, 2, 0,
          R"(1: lost: semicolons separate the fields, and the editor takes them for text
 1: note: "City" has "Kiel", which isn't in its list, in 1 record
 2: lost: 1 field, not 2, which would end the table too
@@ -200,11 +195,11 @@ TEST(CleanCopy, HoldsAllThatWasMeantAndSaysWhatItDid) {
          R"(1: changed: the titles are the specification's in another order; the specification's order would be written over columns that stay where they are
 1: note: in the copy the columns are put into the specification's order, in 2 lines)",
          "'A','A','B'|'2','3','1'|"},
-        {"/to new /csvh", "A|1,'2\n3'|", 1, 1, 1,
+        {"/to new /csvh", "A|1,'2\n3'|4,5|6,7|", 1, 3, 3,
          R"(1: changed: the header line has 1 field and the first record 2
 1: note: in the copy 1 line with too few fields filled with empty ones
 2: note: in the copy line breaks inside cells made blanks, in 1 line)",
-         "'A',''|'1','2 3'|"},
+         "'A',''|'1','2 3'|'4','5'|'6','7'|"},
         {"/to new /csv", "1\t2|3\t4\t5|", 2, 2, 2,
          R"(1: lost: tabs separate the fields, and the editor takes them for text
 2: lost: 3 fields, not 2, which would end the table too
@@ -253,9 +248,8 @@ TEST(CleanCopy, HoldsAsManyRecordsAsATableAndNoMore) {
     EXPECT_EQ(folder.Run("/csv f /to new"),
               "0" + Footer("new", 32767, 32767) + Footer("f", 32767, 32767) + "\n");
     EXPECT_EQ(folder.Copy(), Lines(32767, "\"a\"\r\n"));
-    folder.Write("f", Lines(32768, "a\0\r\n"s));
+    folder.Write("f", Lines(32768, std::string("a\0\r\n", 4)));
     const std::string found = folder.Run("/csv f /to more");
-    EXPECT_EQ(std::count(found.begin(), found.end(), '\n'), 25);
     EXPECT_EQ(found.substr(found.find("f:20:")), R"(f:20: note: NUL bytes
 f: note: and 32748 more of this sort
 f:32768: lost: a table holds at most 32767 records, and this is one more, so the editor reads none
@@ -327,12 +321,6 @@ lists:5: note: the list file "missing" isn't there, and neither is missing; the 
 none:1: note: the list is empty; the field takes any text
 lists: 5 columns in the file, 5 in the editor
 )");
-    folder.Write("wide", "2,4\r\nA,40,1,:\r\nB, 60,0,-\r\n");
-    EXPECT_EQ(folder.Run("/spec wide"), R"(0
-wide:2: note: the list file ":" isn't there, and neither is :; the field takes any text
-wide:3: note: blanks at the ends of cells are left out
-wide: 2 columns in the file, 2 in the editor
-)");
 }
 
 TEST(Check, RefusesWrongWordsAndNeverReplacesAFile) {
@@ -345,8 +333,11 @@ TEST(Check, RefusesWrongWordsAndNeverReplacesAFile) {
         {"a /to", "2\n" + usage},
         {"/spec a b", "2\n" + usage},
         {"/spec a /to b", "2\n" + usage},
-        {"/spec width", "1\nwidth:1: lost: Row 1 has the width \"x\", which is not a number from -32768 to "
-                        "32767.\nwidth: 1 column in the file, 0 in the editor\n"},
+        {"/spec wide", R"(0
+wide:2: note: the list file ":" isn't there, and neither is :; the field takes any text
+wide:3: note: blanks at the ends of cells are left out
+wide: 2 columns in the file, 2 in the editor
+)"},
         {"--help", "0\n" + usage},
         {"/?", "0\n" + usage},
         {"--version", "0\nNorvoCheckDat 1.2.3\n"},
