@@ -99,8 +99,7 @@ private:
         if (pLine.faults.Has(ManyRecords) && !myIsDat) {
             myFindings.Add(pLine.line, ManyRecords);
         }
-        const bool isAnnounced = !myIsDat || myRecords < myMeant.announcedRows;
-        myFirstUnannounced = isAnnounced || myFirstUnannounced > 0 ? myFirstUnannounced : pLine.line;
+        myFirstUnannounced = myRecords == myMeant.announcedRows ? pLine.line : myFirstUnannounced;
         ++myRecords;
         myIsReading = myIsReading && (!myIsDat || myRecords < myMeant.announcedRows);
     }
@@ -156,9 +155,9 @@ private:
         const bool isClear = !faults.Has(OpenQuote) && !faults.Has(TextAfterQuote) && !faults.Has(Surplus);
         for (std::size_t col = 0; col < myWanted.size() && isClear; ++col) {
             const std::size_t place = myMeant.order.empty() ? col : myMeant.order[col];
-            const std::string value(pRecord.cells(static_cast<int>(place) + 1));
+            const std::string_view value = pRecord.cells(static_cast<int>(place) + 1);
             if (!myWanted[col].values.empty() && !myWanted[col].values.contains(LCase(value))) {
-                Tally &found = myUnlisted[{col, value}];
+                Tally &found = myUnlisted[{col, std::string(value)}];
                 found.first = found.lines++ == 0 ? pRecord.line : found.first;
             }
         }
@@ -191,8 +190,8 @@ private:
         const Tally tally = TallyOf(myMeant, LfAlone);
         const std::size_t lines = myMeant.lines.size() + (myMeant.head.line > 0 ? 1 : 0);
         const FaultSet &last = myMeant.lines.empty() ? myMeant.head.faults : myMeant.lines.back().faults;
-        const bool areAll =
-            tally.lines + (last.Has(LfAlone) ? 0 : 1) == lines; // The last line may have no end.
+        // The last line may have no end.
+        const bool areAll = tally.lines + (last.Has(LfAlone) ? 0 : 1) == lines;
         const std::string more = tally.lines > 1 ? " and " + std::to_string(tally.lines - 1) + " more" : "";
         if (tally.lines > 0) {
             myFindings.Add(
@@ -207,7 +206,6 @@ private:
         const clsDatFile &table = myEditor.table;
         const std::size_t rows = myMeant.announcedRows;
         const std::size_t cols = myMeant.announcedCols;
-        const std::string records = Counted(rows, "record");
         if (!table.Fault().empty() && table.WasRead() && TallyOf(myMeant, LfAlone).lines == 0) {
             myFindings.Add(1, NotTaken,
                            {table.Cause(), rows == 0 ? " Is it CSV? Then say /csv or /csvh." : ""});
@@ -218,9 +216,10 @@ private:
                                 : "isn't two numbers, of the records and of the columns"});
         } else if (rows < myRecords) {
             myFindings.Add(myFirstUnannounced, Announced,
-                           {records, "so from here on " + NotRead(myRecords - rows)});
+                           {Counted(rows, "record"), "so from here on " + NotRead(myRecords - rows)});
         } else if (rows > myRecords) {
-            myFindings.Add(1, Announced, {records, "but there are " + std::to_string(myRecords)});
+            myFindings.Add(1, Announced,
+                           {Counted(rows, "record"), "but there are " + std::to_string(myRecords)});
         }
         if (!myWanted.empty() && cols > 0 && cols != myWanted.size()) {
             myFindings.Add(1, WrongColumns,

@@ -83,8 +83,8 @@ public:
         mySeparator = mySeparator == '\0' ? SeparatorOf(Text(), myCols) : mySeparator;
         TextRow words = Words();
         const bool hasMark = Text().size() < myLines.Text().size();
-        if (mySeparator != ',' || words.Count() == 0 || words.Count() > modGetWords::mostWords || hasMark ||
-            MayHaveBlanksAtEnds(Text())) {
+        const bool isTable = words.Count() > 0 && words.Count() <= modGetWords::mostWords;
+        if (mySeparator != ',' || !isTable || hasMark || MayHaveBlanksAtEnds(Text())) {
             return SplitRecord(std::move(words));
         }
         MeantRecord record = Line();
