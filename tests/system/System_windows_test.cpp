@@ -19,7 +19,8 @@ TEST(WindowsFiles, HaveAnyNameThatTheSystemHasOrAreLeftAlone) {
     const TemporaryFolder folder;
     std::string deep = std::filesystem::path(folder.File("deep")).make_preferred().string();
     for (int level = 0; level < 10; ++level) {
-        ASSERT_TRUE(CreateDirectoryA(("\\\\?\\" + deep).c_str(), nullptr));
+        const std::wstring path(deep.begin(), deep.end());
+        ASSERT_TRUE(CreateDirectoryW((LR"(\\?\)" + path).c_str(), nullptr));
         deep += "\\a folder with a name of forty characters";
     }
     const std::string file = folder.File("file.dat");
@@ -27,13 +28,13 @@ TEST(WindowsFiles, HaveAnyNameThatTheSystemHasOrAreLeftAlone) {
         EXPECT_EQ(WriteAndRead(name, "text"), "text") << name;
         EXPECT_EQ(Dir(name), name.substr(name.find_last_of("/\\") + 1));
     }
-    for (const std::string &name : {file + ".", file + " ", file + "\\below", folder.File(""),
-                                    folder.File("a*b"), folder.File("plain:stream"), std::string("NUL"),
-                                    std::string("COM1"), std::string("a\0b", 3), std::string("\xFF.dat")}) {
+    for (const std::string &name :
+         {file + ".", file + " ", file + "\\below", folder.File(""), folder.File("a*b"),
+          folder.File("plain:stream"), std::string("a\0b", 3), std::string("\xFF.dat")}) {
         EXPECT_EQ(WriteAndRead(name, "lost") + Dir(name), "!?") << name;
     }
     for (const std::string name :
-         {"Q:\\gone.dat", "\\\\nobody\\share\\f.dat"}) { // To open it tells what is gone.
+         {"Q:\\gone.dat", "\\\\nobody\\share\\f.dat", "NUL", "COM1"}) { // To open it tells what is wrong.
         EXPECT_TRUE(WriteAndRead(name, "lost") == "!?" && !Dir(name).empty()) << name;
     }
     for (const auto &[attribute, text] : {std::pair(FILE_ATTRIBUTE_READONLY, "!text"),
