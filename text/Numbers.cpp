@@ -9,6 +9,7 @@
 #include <iterator>
 #include <limits>
 #include <locale>
+#include <new>
 #include <sstream>
 
 namespace {
@@ -51,6 +52,9 @@ double ValueOf(std::string_view pNumber) {
     number.exceptions(std::ios::badbit); // A lack of memory would pass for the number 0.
     double value = 0;
     number >> value;
+    if (number.fail() && value == 0) {
+        throw std::bad_alloc(); // MinGW's library sets the locale aside, and tells a lack of memory so.
+    }
     // One too large gives the largest double, and failure.
     return number.fail() ? std::copysign(std::numeric_limits<double>::infinity(), value) : value;
 }
