@@ -139,9 +139,11 @@ private:
         if (pRecord.faults.Has(CrInQuotes)) {
             EndTable(pRecord.line, CrInQuotes, {"line"});
         } else if (pRecord.fields == 0) {
-            constexpr Fault causes[] = {OpenQuote, TextAfterQuote, CommaAtEnd, MarkBeforeQuote};
-            EndTable(pRecord.line,
-                     *std::ranges::find_if(causes, [&](Fault pFault) { return pRecord.faults.Has(pFault); }));
+            Fault cause = MarkBeforeQuote;
+            for (const Fault fault : {CommaAtEnd, TextAfterQuote, OpenQuote}) {
+                cause = pRecord.faults.Has(fault) ? fault : cause;
+            }
+            EndTable(pRecord.line, cause);
         } else if (pRecord.fields > modGetWords::mostWords) {
             Stop(pRecord.line, ManyColumns);
         } else if (pRecord.fields != myFields && (myIsDat || myRecords > 0)) {
