@@ -8,11 +8,7 @@
 #endif
 
 const std::string caption = "Norvo Data File Editor";
-#ifdef _WIN32
-const std::string startFolder = "c:\\";
-#else
-const std::string startFolder; // none is known by that name
-#endif
+const std::string startFolder = std::filesystem::is_directory("c:\\") ? "c:\\" : "";
 
 TEST(Start, KnowsItsFileVersionAndCommandLine) {
     const AppRecord app = MakeAppRecord("/usr/lib/Edit.v2.exe");

@@ -5,6 +5,7 @@ save has to be the same, byte for byte.
 
 import os
 import pathlib
+import re
 import shutil
 import subprocess
 import sys
@@ -18,6 +19,7 @@ from tools.screen import Screen, until
 
 TITLE = "Norvo Data File Editor"
 WINE = "/usr/lib/wine/wine64"
+ADD = "%32,-22"  # the button
 
 
 class Here:
@@ -36,6 +38,22 @@ class Here:
     def start(self, *words):
         self.editor = subprocess.Popen([*self.words, *words], cwd=self.folder, env=self.environment)
         return hands.focus(TITLE)
+
+    def do(self, steps):
+        """Each step is a key, with the number of presses after "*", a 'text', an @picture, or a click %x,y. It counts
+        from the left and from the top of the editor's window, or up from the bottom if it is negative."""
+        for step in re.findall(r"'[^']*'|\S+", steps):
+            if step[0] == "'":
+                hands.type_text(step[1:-1])
+            elif step[0] == "@":
+                self.picture(step[1:])
+            elif step[0] == "%":
+                left, top, _, height = hands.place(hands.focus(TITLE))
+                x, y = (int(number) * self.scale for number in step[1:].split(","))
+                hands.click(left + x, top + y + (height if y < 0 else 0))
+            else:
+                key, _, times = step.partition("*")
+                hands.key(*[key] * int(times or 1))
 
     def picture(self, name):
         if self.pictures:
@@ -77,26 +95,14 @@ class There(Here):
         file = self.folder / "pasted.dat"
         desktop = subprocess.Popen([WINE, "cmd"], stdin=subprocess.PIPE, stdout=subprocess.DEVNULL,
                                    env=self.environment)  # Wine's lasts while a program runs.
-        self.click_first_field(file.name)
-        hands.type_text("Copied")
-        hands.key("ctrl+a", "ctrl+c", "alt+F4")
+        self.start(file.name)
+        self.do("%60,55 'Copied' ctrl+a ctrl+c alt+F4")
         self.ends()
-        x, y, _, height = self.click_first_field(file.name)
-        hands.key("ctrl+v")
-        hands.click(x + 32, y + height - 22)  # add
-        hands.key("alt+a")
-        hands.focus(self.save_title)
-        hands.key("Return")
-        until(lambda: file.exists() and b"Copied" in file.read_bytes(), "what was copied")
-        hands.focus(TITLE)
-        hands.key("alt+F4")
-        self.ends()
+        self.start(file.name)
+        self.do("%60,55 ctrl+v " + ADD)
+        save_as_offered(self, file)
+        assert b"Copied" in file.read_bytes(), "what was copied"
         desktop.communicate()
-
-    def click_first_field(self, name):
-        place = hands.place(self.start(name))
-        hands.click(place[0] + 60, place[1] + 55)
-        return place
 
     def path(self, path):
         return "Z:" + str(path).replace("/", "\\")
@@ -118,95 +124,64 @@ def answer(box, key):
 
 def save(here, name):
     file = here.folder / (name + ".dat")  # Wine's dialog would add it, which the system's doesn't.
-    hands.key("alt+a")
+    here.do("alt+a")
     hands.focus(here.save_title)
-    here.picture("save-" + name)
-    hands.key("Home", "shift+End")  # Wine's dialog doesn't know Ctrl+A.
+    here.do("@save-%s Home shift+End" % name)  # Wine's dialog doesn't know Ctrl+A.
     hands.type_text(here.path(file))
-    hands.key("Return")
+    here.do("Return")
     hands.focus(TITLE)
     until(file.exists, name)
 
 
-def edit(here, share):
-    """The main job, by keys: pick, change, complete, be refused, update, move, delete."""
-    window = here.start(here.path(share / "NorvoEditDat.dat"), here.path(share / "timezones.dat"))
-    here.picture("start")
-    hands.key(*"Tab Tab Tab Down Down Tab End quotedbl comma".split())
-    hands.key("Tab", "ctrl+a")
-    hands.type_text("Nowhere")
-    hands.key("alt+a", "Tab")  # Neither gets out of the field.
-    here.picture("refused")
-    hands.key("ctrl+a")
-    hands.type_text("europe")
-    hands.key("Tab", "ctrl+a")
-    hands.type_text("Germ")
-    here.picture("completed")
-    hands.key("Tab", "Tab", *["shift+Tab"] * 11, "space")
+def save_as_offered(here, file):
+    """Saves what is open, and ends the editor. The dialog offers its file, in the file's own folder."""
+    here.do("alt+a")
+    hands.focus(here.save_title)
+    here.do("@offered Return")
+    hands.focus(TITLE)
+    until(file.exists, file.name)
+    here.do("alt+F4")
+    return here.ends()
+
+
+def edit(here):
+    """The main job, by keys: pick, change, complete, be refused, update. Then by mouse and keys: pick a record, move
+    and delete it, and add one."""
+    here.do("@start Tab*3 Down*2 Tab End quotedbl comma Tab ctrl+a 'Nowhere'")
+    here.do("alt+a Tab @refused")  # Neither gets out of the field.
+    here.do("ctrl+a 'europe' Tab ctrl+a 'Germ' @completed Tab*2 shift+Tab*11 space")
     save(here, "updated")
-    hands.key(*["shift+Tab"] * 6)
-    return window
-
-
-def add_and_move(here, window):
-    """By mouse and keys: pick a record, move it, and add one."""
-    x, y, width, height = hands.place(window)
-    unit = here.scale
-    hands.click(x + 60 * unit, y + 112 * unit)
-    here.picture("picked")
-    hands.click(x + 165 * unit, y + height - 22 * unit)  # down
-    hands.click(x + 165 * unit, y + height - 22 * unit)
+    here.do("shift+Tab*6 %60,112 @picked %165,-22 %165,-22")
     save(here, "moved")
-    hands.click(x + 88 * unit, y + height - 22 * unit)  # delete
+    here.do("%88,-22")
     save(here, "deleted")
-    hands.click(x + 60 * unit, y + 55 * unit)
-    hands.key("ctrl+a")
-    hands.type_text("Zone of mine")
-    hands.key("Tab")
-    hands.type_text("Asia")
-    hands.key("Tab")
-    hands.type_text("jap")
-    hands.key("Tab")
-    here.picture("typed")
-    hands.click(x + 32 * unit, y + height - 22 * unit)  # add
+    here.do("%60,55 ctrl+a 'Zone of mine' Tab 'Asia' Tab 'jap' Tab @typed " + ADD)
     save(here, "added")
 
 
 def open_what_is_not_there(here):
     """Opens a name that isn't there, adds an empty record, and saves it under that name."""
-    file = here.folder / "new.dat"
     here.start()
-    hands.key("space", "ctrl+o")
+    here.do("space ctrl+o")
     hands.focus("Open")
-    hands.type_text(here.path(file))
-    hands.key("Return")
+    hands.type_text(here.path(here.folder / "new.dat"))
+    here.do("Return")
     hands.focus(TITLE)
-    hands.key("shift+Tab", "Tab", "space", "alt+a")
-    hands.focus(here.save_title)
-    hands.key("Return")
-    hands.focus(TITLE)
-    until(file.exists, "new.dat")
+    here.do("shift+Tab Tab space")
+    return save_as_offered(here, here.folder / "new.dat")
 
 
-def save_as_offered(here, name):
-    """The dialog offers a file in its own folder, however it was named at the start."""
+def start_in_a_folder(here, name):
     file = here.folder / name
     file.parent.mkdir(exist_ok=True)
-    x, y, _, height = hands.place(here.start(name))
-    hands.click(x + 32 * here.scale, y + height - 22 * here.scale)  # add
-    hands.key("alt+a")
-    hands.focus(here.save_title)
-    here.picture("offered")
-    hands.key("Return")
-    hands.focus(TITLE)
-    until(file.exists, name)
-    hands.key("alt+F4")
-    return here.ends()
+    here.start(name)
+    here.do(ADD)
+    return save_as_offered(here, file)
 
 
 def work(here, share, opened):
-    window = edit(here, share)
-    add_and_move(here, window)
+    window = here.start(here.path(share / "NorvoEditDat.dat"), here.path(share / "timezones.dat"))
+    edit(here)
     # Wine lets the window manager make a window smaller than its least size, and doesn't notice.
     hands.expect_drags(window, ((30, 100),))
     here.picture("size")
@@ -227,11 +202,8 @@ def work(here, share, opened):
         hands.focus("Quit")
         here.picture("quit")
         answer("Quit", key)
-    statuses = [here.ends()]
-    open_what_is_not_there(here)
-    hands.key("alt+F4")
-    statuses += [here.ends()]
-    return statuses + [save_as_offered(here, name) for name in ("bare.dat", "below/named.dat")]
+    statuses = [here.ends(), open_what_is_not_there(here)]
+    return statuses + [start_in_a_folder(here, name) for name in ("bare.dat", "below/named.dat")]
 
 
 def main():
