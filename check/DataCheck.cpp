@@ -175,7 +175,7 @@ private:
 
     /// The same, where pFault would end the editor's table in any case.
     void EndTable(std::size_t pLine, Fault pFault, Texts pTexts = {}) {
-        if (myRecords == 0 && !myIsDat) {
+        if (myRecords == 0 && !myIsDat && !myEditor.lastMessage.empty()) {
             Stop(pLine, FirstLine, {Filled(RowOf(pFault).finding, pTexts)});
         } else if (myIsReading) {
             // A .dat keeps the number of records that it announces.
