@@ -75,6 +75,8 @@ TEST_F(Fields, ShowThatTheyRefuseUntilTheTextIsMended) {
         EXPECT_FALSE(refuses()) << mend;
     }
     EXPECT_EQ(told.text(QAccessible::Name) + told.text(QAccessible::Value), "Fruitabacus");
+    told.actionInterface()->doAction(QAccessibleActionInterface::showMenuAction());
+    EXPECT_TRUE(told.state().expanded && told.state().editable && told.state().expandable);
 }
 
 TEST_F(Fields, KeepTheFocusWhicheverWayOutTheUserTries) {

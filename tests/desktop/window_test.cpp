@@ -124,8 +124,7 @@ TEST_F(Records, KeepEachTextInItsCell) {
         for (const float width : {90.0F, 210.0F, 330.0F, 600.0F}) {
             EXPECT_EQ(cell(text, width, 2), cell("", width, 2)) << text << " in " << width << " twips";
         }
-        const QImage blank = cell("", 600, 1);
-        EXPECT_NE(cell(text, 600, 1), blank) << "a changed row is painted anew";
+        EXPECT_NE(cell(text, 600, 1), cell("", 600, 1)) << "a changed row is painted anew";
     }
     list.SelectedIndex(2);
     Sync();
