@@ -41,7 +41,7 @@ struct FaultRow {
     Fault fault;
     Kind kind;
     std::string_view finding;
-    std::string_view mended{};  ///< what the copy does about it, to so many lines. Empty: nothing
+    std::string_view mended{};  ///< what the copy does about it; the gap is for "2 lines". Empty: nothing
     std::string_view refusal{}; ///< why there is no copy of a file with it. Empty: there is one
 };
 const FaultRow &RowOf(Fault pFault);

@@ -38,6 +38,6 @@ private:
     bool myIsSaved;
     std::array<std::size_t, 3> myOfKind{};
     std::array<OfOneFault, faultCount> myFound;
-    /// By line and fault. More are kept than printed only if later ones are in lines before.
+    /// By line and fault. Findings come in any order: one in a line before those that are kept is kept too.
     std::multimap<std::pair<std::size_t, Fault>, std::string> myTexts;
 };

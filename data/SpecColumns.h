@@ -9,8 +9,8 @@ class clsDatFile;
 /// One row of a specification: a column of the data, with its list column and its field.
 struct SpecColumn {
     std::string heading;
-    std::int16_t listPercent = 0; ///< width of the list column, in percent of the list's width
-    double percent = 0;           ///< width of the field, in percent of the list's width
+    double percent = 0;           ///< width of the field, in percent of the list's width, as it is written
+    std::int16_t listPercent = 0; ///< width of the list column: the same, rounded
     std::int16_t place = 0;       ///< sum of the percents of the fields before this one, rounded at each step
     bool isTextBox = true;        ///< otherwise the field is a combo box
     std::string listFile;         ///< of a combo box, as the specification names it

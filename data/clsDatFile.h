@@ -45,20 +45,20 @@ public:
     /// The titles for the header line. There may be more or fewer of them than columns.
     void Headers(std::vector<std::string> pHeaders) { myHeaders = std::move(pHeaders); }
 
-    /// The size of the table. Setting it makes no storage: only Clear and Load do. Setting a value below 1
+    /// The size of the table. Setting it makes no cells: only Clear and Load do. Setting a value below 1
     /// shows a message and ends the program.
     void Rows(std::int16_t n);
     std::int16_t Rows() const { return myRows; }
     void Cols(std::int16_t n);
     std::int16_t Cols() const { return myCols; }
 
-    /// A cell, by row and column from 0. A cell outside the table or without storage reads as empty and
-    /// ignores writes.
+    /// A cell, by row and column from 0. One that is outside the table, or that Rows and Cols have only
+    /// announced, reads as empty and ignores writes.
     void Data(std::int16_t pRow, std::int16_t pCol, const std::string &pValue);
     std::string Data(std::int16_t pRow, std::int16_t pCol) const;
 
     /// All cells of a row (from 0) at once, column c as text c + 1. Empty cells at the end may be missing. A
-    /// row outside the table or without storage reads as empty and ignores writes.
+    /// row outside the table, or only announced, reads as empty and ignores writes.
     void Row(std::int16_t pRow, TextRow pCells);
     TextRow Row(std::int16_t pRow) const;
 
@@ -69,7 +69,7 @@ public:
     /// to Cols() - 1. Ignores any other number.
     void MoveRowUp(std::int16_t pRow);
 
-    /// Makes fresh storage for Rows() by Cols() empty cells.
+    /// Makes Rows() by Cols() empty cells, in place of all that there are.
     void Clear();
 
     /// Replaces the size and the cells with those of the file, which must exist. Ends the program, after a
@@ -124,8 +124,8 @@ private:
     std::int16_t myRows = 0;
     std::int16_t myCols = 0;
     std::vector<std::string> myHeaders;
-    /// The storage, one entry for each row. An entry holds only the cells that were written, so a large
-    /// announced size costs nothing. myStoredCols is the width of the storage.
+    /// The cells, one entry for each row. An entry holds only the cells that were written, so a large
+    /// announced size costs nothing. myStoredCols is how many cells a row has.
     std::vector<TextRow> myData;
     std::int16_t myStoredCols = 0;
     std::string myFault;

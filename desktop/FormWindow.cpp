@@ -38,8 +38,8 @@ FormWindow::FormWindow(Acts &pActs, Form &pForm) : myActs(pActs), myForm(pForm),
 }
 
 FormWindow::~FormWindow() {
-    disconnect(qApp, nullptr, this,
-               nullptr); // Qt moves the focus once more when this is no FormWindow any more.
+    // Qt moves the focus once more when this is no FormWindow any more.
+    disconnect(qApp, nullptr, this, nullptr);
     myIsReady = false;
     myViews.clear();
 }

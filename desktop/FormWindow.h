@@ -63,6 +63,7 @@ private:
     QSize WantedSize() const;
     void ResizeToForm();
     void FollowForm();
+    /// Ask the window system for the size that the form wants, and look whether it has come.
     void Ask();
     void Check();
 

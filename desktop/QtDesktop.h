@@ -44,6 +44,6 @@ private:
     const Runtime *myRuntime = nullptr;
     std::map<const Form *, QPointer<FormWindow>> myWindows;
     HeldKeys myHeldKeys;
-    std::unique_ptr<char[]> mySpare; ///< given up while a message is shown
+    std::unique_ptr<char[]> mySpare; ///< memory for the message that there is no more: given up to show it
     int myDepth = 0;                 ///< running acts, one inside the other
 };

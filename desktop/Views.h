@@ -5,6 +5,7 @@
 
 using ViewMaker = std::unique_ptr<ControlView>(Acts &pActs, ::Control &pControl, QWidget &pParent);
 
+// Functions, declared by their type.
 ViewMaker MakeButtonView, MakeLabelView, MakePictureView, MakeLineView;
 
 template <typename View, typename Kind>

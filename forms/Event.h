@@ -1,6 +1,6 @@
 #pragma once
-/// An event of a form or control. Each object that serves the control has one handler of it, connected in one
-/// visible place.
+/// An event of a form or control. Several objects may serve one control; each of them connects at most one
+/// handler, in one visible place, and takes it away again under its own address.
 #include <algorithm>
 #include <functional>
 #include <vector>
