@@ -13,7 +13,7 @@ import sys
 import tempfile
 import time
 
-TIMEOUT = 30  # seconds; a sanitized build on a busy machine is slow
+TIMEOUT = 100  # seconds, against hanging alone: a sanitized build on a busy machine is slow
 WIDTH, HEIGHT = 1280, 900
 
 # By default openbox binds keys that programs want. This binds only the one that closes a window. The font is for
@@ -74,9 +74,10 @@ class Screen:
 
     def _start_server(self, environment):
         read_end, write_end = os.pipe()
-        # Without -noreset the server resets whenever its last client disconnects.
+        # Without -noreset the server resets whenever its last client disconnects. With -r it repeats no key: on a busy
+        # machine a key may be held down for long.
         self.start(["Xvfb", "-displayfd", str(write_end), "-screen", "0", "%dx%dx24" % (WIDTH, HEIGHT),
-                    "-nolisten", "tcp", "-noreset"], pass_fds=[write_end])
+                    "-nolisten", "tcp", "-noreset", "-r"], pass_fds=[write_end])
         os.close(write_end)
         with os.fdopen(read_end) as pipe:
             number = pipe.readline().strip()

@@ -22,4 +22,4 @@ list(REMOVE_ITEM tidied desktop)
 list(JOIN tidied "|" tidied)
 add_test(NAME tidy COMMAND "${RUN_CLANG_TIDY}" -quiet -p "${CMAKE_BINARY_DIR}" -j 2
     -extra-arg=-Wno-unknown-warning-option "${CMAKE_SOURCE_DIR}/(${tidied})/")
-set_tests_properties(tidy PROPERTIES TIMEOUT 600 PROCESSORS 2)
+set_tests_properties(tidy PROPERTIES TIMEOUT 3600 PROCESSORS 2)

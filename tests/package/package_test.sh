@@ -70,7 +70,7 @@ title="Time zones"
 pid=$!
 trap 'kill "$pid" || true; wait' EXIT
 # A search fails when a window closes during it.
-for ((try = 0; try < 60; ++try)); do
+for ((try = 0; try < 600; ++try)); do
     windows=$(xdotool search --onlyvisible --all --pid "$pid" --name '.' 2>/dev/null) && break
     sleep 0.5
 done
