@@ -26,9 +26,7 @@ MenuItem &Entry(Form &pForm, const char *pName, const char *pCaption, const Menu
     auto &item = pForm.Add<MenuItem>(pName);
     item.Caption(pCaption);
     item.Shortcut(pShortcut);
-    if (pAbove != nullptr) {
-        item.Above(*pAbove);
-    }
+    item.Above(pAbove);
     return item;
 }
 

@@ -23,16 +23,8 @@ PathParts SplitPath(const std::string &pPath) {
 
 } // namespace
 
-void CommonDialog::ShowOpen() {
-    Show(Purpose::Open);
-}
-
-void CommonDialog::ShowSave() {
-    Show(Purpose::Save);
-}
-
 void CommonDialog::Show(Purpose pPurpose) {
-    PathParts preset = SplitPath(myFileName);
+    PathParts preset = SplitPath(FileName());
     if (preset.folder.empty() && !preset.name.empty()) {
         preset.folder = "./";
     }
@@ -40,21 +32,22 @@ void CommonDialog::Show(Purpose pPurpose) {
         myLastFolder = preset.folder;
     } else {
         // In another folder the bare name would name another file, perhaps an existing one.
-        preset = {"", myFileName};
+        preset = {"", FileName()};
     }
-    const std::size_t bar = std::min(myFilter.find('|'), myFilter.size());
+    const std::string &filter = Filter();
+    const std::size_t bar = std::min(filter.find('|'), filter.size());
     FileDialogRequest request;
     request.isSave = pPurpose == Purpose::Save;
-    request.description = Trim(std::string_view(myFilter).substr(0, bar));
-    request.pattern = bar < myFilter.size() ? Trim(std::string_view(myFilter).substr(bar + 1)) : "";
+    request.description = Trim(std::string_view(filter).substr(0, bar));
+    request.pattern = bar < filter.size() ? Trim(std::string_view(filter).substr(bar + 1)) : "";
     request.name = preset.name;
     // The user expects to find the offered file in its own folder.
-    request.folder = !preset.folder.empty() ? preset.folder : myInitDir;
+    request.folder = !preset.folder.empty() ? preset.folder : InitDir();
     if (!os::IsFolder(request.folder)) {
         request.folder = os::IsFolder(myLastFolder) ? myLastFolder : "";
     }
-    myFileName = Parent().Runtime().Desktop().ShowFileDialog(Parent(), request).value_or("");
-    if (!myFileName.empty()) {
-        myLastFolder = SplitPath(myFileName).folder;
+    FileName(Parent().Runtime().Desktop().ShowFileDialog(Parent(), request).value_or(""));
+    if (!FileName().empty()) {
+        myLastFolder = SplitPath(FileName()).folder;
     }
 }

@@ -11,27 +11,23 @@ public:
     const char *TypeName() const override { return "CommonDialog"; }
 
     /// A description and a pattern, separated by "|". Blanks around either don't count.
-    void Filter(std::string pFilter) { myFilter = std::move(pFilter); }
+    Property<std::string> Filter{*this};
 
     /// The folder to start in. If it doesn't exist, the dialog starts in the folder of the last chosen file,
     /// else in the current folder.
-    void InitDir(std::string pFolder) { myInitDir = std::move(pFolder); }
+    Property<std::string> InitDir{*this};
 
     /// Before the dialog: the name to offer. The dialog starts in its folder, which is the current one for a
     /// bare name. After the dialog: the chosen path as the user gave it, or empty if the user dismissed the
     /// dialog.
-    const std::string &FileName() const { return myFileName; }
-    void FileName(std::string pName) { myFileName = std::move(pName); }
+    Property<std::string> FileName{*this};
 
-    void ShowOpen();
-    void ShowSave();
+    void ShowOpen() { Show(Purpose::Open); }
+    void ShowSave() { Show(Purpose::Save); }
 
 private:
     enum class Purpose { Open, Save };
     void Show(Purpose pPurpose);
 
-    std::string myFilter;
-    std::string myInitDir;
-    std::string myFileName;
     std::string myLastFolder;
 };

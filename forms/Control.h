@@ -1,6 +1,7 @@
 #pragma once
-/// The common part of all controls of a form: name, tag, place, and a count of changes. The count tells a
-/// desktop whether it has to show a control again.
+/// The common part of all controls of a form: name, tag and place.
+#include "forms/Property.h"
+
 #include <string>
 #include <utility>
 
@@ -9,7 +10,7 @@ class Form;
 /// Twips in a logical pixel.
 inline constexpr double twipsPerPixel = 15;
 
-class Control {
+class Control : public Shown {
 public:
     Control(Form &pParent, std::string pName) : myParent(pParent), myName(std::move(pName)) {}
     virtual ~Control() = default;
@@ -22,26 +23,11 @@ public:
     Form &Parent() const { return myParent; }
     const std::string &Name() const { return myName; }
 
-    const std::string &Tag() const { return myTag; }
-    void Tag(std::string pTag) { myTag = std::move(pTag); }
-
-    /// Goes up with each visible change. A desktop remembers the revision that it showed last.
-    int Revision() const { return myRevision; }
-    /// Makes the number go up without a change, so that a desktop shows the control anew.
-    void Touch() { ++myRevision; }
-
-protected:
-    /// Sets a property that can be seen.
-    template <typename Value> void Change(Value &pProperty, Value pValue) {
-        pProperty = std::move(pValue);
-        Touch();
-    }
+    Property<std::string> Tag{*this};
 
 private:
     Form &myParent;
     std::string myName;
-    std::string myTag;
-    int myRevision = 1;
 };
 
 /// A control with a place in the window. Places and sizes are in twips, kept as given, unrounded.
@@ -49,14 +35,11 @@ class SizedControl : public Control {
 public:
     using Control::Control;
 
-    double Left() const { return myLeft; }
-    void Left(double pTwips) { Change(myLeft, pTwips); }
-    double Top() const { return myTop; }
-    void Top(double pTwips) { Change(myTop, pTwips); }
-    double Width() const { return myWidth; }
-    void Width(double pTwips) { Change(myWidth, pTwips); }
-    double Height() const { return myHeight; }
-    virtual void Height(double pTwips) { Change(myHeight, pTwips); }
+    Property<double> Left{*this};
+    Property<double> Top{*this};
+    Property<double> Width{*this};
+    double Height() const { return myHeight(); }
+    virtual void Height(double pTwips) { myHeight(pTwips); }
     void Move(double pLeft, double pTop, double pWidth, double pHeight) {
         Left(pLeft);
         Top(pTop);
@@ -64,37 +47,22 @@ public:
         Height(pHeight);
     }
 
-    bool Visible() const { return myVisible; }
-    void Visible(bool pVisible) { Change(myVisible, pVisible); }
-
-    bool Enabled() const { return myEnabled; }
-    void Enabled(bool pEnabled) { Change(myEnabled, pEnabled); }
+    Property<bool> Visible{*this, true};
+    Property<bool> Enabled{*this, true};
 
     /// Position in the tab order, from 0. Controls without one come last, in order of creation.
-    int TabIndex() const { return myTabIndex; }
-    void TabIndex(int pIndex) { myTabIndex = pIndex; }
+    Property<int> TabIndex{*this, 32767};
 
     /// The text to show while the pointer rests on the control. It also names a control without a caption.
-    const std::string &ToolTipText() const { return myToolTipText; }
-    void ToolTipText(std::string pText) { myToolTipText = std::move(pText); }
+    Property<std::string> ToolTipText{*this};
 
     /// The name that assistive technology reads out for the control. If it is empty, the caption is used.
-    const std::string &AccessibleName() const { return myAccessibleName; }
-    void AccessibleName(std::string pName) { myAccessibleName = std::move(pName); }
-    const std::string &AccessibleDescription() const { return myAccessibleDescription; }
-    void AccessibleDescription(std::string pText) { myAccessibleDescription = std::move(pText); }
+    Property<std::string> AccessibleName{*this};
+    /// What it reads out after the name.
+    Property<std::string> AccessibleDescription{*this};
 
 private:
-    double myLeft = 0;
-    double myTop = 0;
-    double myWidth = 0;
-    double myHeight = 0;
-    bool myVisible = true;
-    bool myEnabled = true;
-    int myTabIndex = 32767;
-    std::string myToolTipText;
-    std::string myAccessibleName;
-    std::string myAccessibleDescription;
+    Property<double> myHeight{*this};
 };
 
 /// A single-line field for a text of any length.
@@ -103,9 +71,9 @@ public:
     using SizedControl::SizedControl;
 
     /// The text in the field. Setting it runs no check.
-    const std::string &Text() const { return myText; }
-    virtual void Text(std::string pText) { Change(myText, std::move(pText)); }
+    const std::string &Text() const { return myText(); }
+    virtual void Text(std::string pText) { myText(std::move(pText)); }
 
 private:
-    std::string myText;
+    Property<std::string> myText{*this};
 };

@@ -3,12 +3,6 @@
 #include "system/Memory.h"
 #include "text/Text.h"
 
-void Label::LooksLikeLink(Colour pColour) {
-    myIsLink = true;
-    myForeColor = pColour;
-    Touch();
-}
-
 void TextBox::UserEdits(const std::string &pText) {
     const Headroom headroom;
     Text(WithoutNewLineBreaks(Text(), pText));
@@ -21,7 +15,7 @@ void CommandButton::Press() const {
 }
 
 void MenuItem::Choose() const {
-    if (myEnabled) {
+    if (Enabled()) {
         Click.Raise();
     }
 }

@@ -17,20 +17,13 @@ public:
     using SizedControl::SizedControl;
     const char *TypeName() const override { return "Label"; }
 
-    const std::string &Caption() const { return myCaption; }
-    void Caption(std::string pCaption) { Change(myCaption, std::move(pCaption)); }
+    Property<std::string> Caption{*this};
 
-    /// Makes the label a link: the text in pColour, the pointer a hand. Only a link takes clicks.
-    void LooksLikeLink(Colour pColour);
-    bool IsLink() const { return myIsLink; }
-    Colour ForeColor() const { return myForeColor; }
+    /// A link has its text in ForeColor, and the pointer over it is a hand. Only a link takes clicks.
+    Property<bool> IsLink{*this};
+    Property<Colour> ForeColor{*this};
 
     Event<> Click;
-
-private:
-    std::string myCaption;
-    bool myIsLink = false;
-    Colour myForeColor = 0;
 };
 
 class TextBox : public TextField {
@@ -50,31 +43,21 @@ public:
     const char *TypeName() const override { return "CommandButton"; }
 
     /// "&" marks the letter of the access key.
-    const std::string &Caption() const { return myCaption; }
-    void Caption(std::string pCaption) { Change(myCaption, std::move(pCaption)); }
+    Property<std::string> Caption{*this};
 
     /// A 16 by 16 picture shown in place of a caption.
-    Picture Shows() const { return myPicture; }
-    void Shows(Picture pPicture) { myPicture = pPicture; }
+    Property<Picture> Shows{*this};
 
     /// The Esc key presses the cancel button of the form.
-    bool Cancel() const { return myIsCancel; }
-    void Cancel(bool pIsCancel) { myIsCancel = pIsCancel; }
+    Property<bool> Cancel{*this};
 
     /// The Enter key presses the default button of the form.
-    bool Default() const { return myIsDefault; }
-    void Default(bool pIsDefault) { myIsDefault = pIsDefault; }
+    Property<bool> Default{*this};
 
     /// The user presses the button. A disabled one takes no clicks.
     void Press() const;
 
     Event<> Click;
-
-private:
-    std::string myCaption;
-    Picture myPicture = Picture::None;
-    bool myIsCancel = false;
-    bool myIsDefault = false;
 };
 
 /// An entry of the menu bar, or of the submenu of another entry. It has no place and no size.
@@ -83,30 +66,20 @@ public:
     using Control::Control;
     const char *TypeName() const override { return "Menu"; }
 
-    const std::string &Caption() const { return myCaption; }
-    void Caption(std::string pCaption) { myCaption = std::move(pCaption); }
+    Property<std::string> Caption{*this};
 
     /// The entry whose submenu holds this one; null for an entry of the menu bar.
-    const MenuItem *Above() const { return myAbove; }
-    void Above(const MenuItem &pItem) { myAbove = &pItem; }
+    Property<const MenuItem *> Above{*this};
 
     /// The shortcut in the form "Ctrl+O", or empty.
-    const std::string &Shortcut() const { return myShortcut; }
-    void Shortcut(std::string pKeys) { myShortcut = std::move(pKeys); }
+    Property<std::string> Shortcut{*this};
 
-    bool Enabled() const { return myEnabled; }
-    void Enabled(bool pEnabled) { Change(myEnabled, pEnabled); }
+    Property<bool> Enabled{*this, true};
 
     /// The user chooses the entry, by mouse or key. A disabled one can't be chosen.
     void Choose() const;
 
     Event<> Click;
-
-private:
-    std::string myCaption;
-    const MenuItem *myAbove = nullptr;
-    std::string myShortcut;
-    bool myEnabled = true;
 };
 
 /// A box that shows the program's icon.
@@ -122,9 +95,5 @@ public:
     using SizedControl::SizedControl;
     const char *TypeName() const override { return "Line"; }
 
-    Colour BorderColor() const { return myBorderColor; }
-    void BorderColor(Colour pColour) { myBorderColor = pColour; }
-
-private:
-    Colour myBorderColor = 0;
+    Property<Colour> BorderColor{*this};
 };

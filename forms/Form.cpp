@@ -19,23 +19,10 @@ template <typename Wanted> void PressFirst(const Form &pForm, Wanted pIsWanted) 
 
 } // namespace
 
-void Form::Caption(std::string pCaption) {
-    myCaption = std::move(pCaption);
-    ++myRevision;
-}
-
-void Form::Width(float pTwips) {
-    if (pTwips != myWidth) {
-        myWidth = pTwips;
-        ++myRevision;
-        Resize.Raise();
-    }
-}
-
-void Form::Height(float pTwips) {
-    if (pTwips != myHeight) {
-        myHeight = pTwips;
-        ++myRevision;
+void Form::Change(float &pSize, float pTwips) {
+    if (pTwips != pSize) {
+        pSize = pTwips;
+        Touch();
         Resize.Raise();
     }
 }
@@ -43,11 +30,6 @@ void Form::Height(float pTwips) {
 void Form::ClientSize(float pWidth, float pHeight) {
     myWidth = pWidth + frameWidthTwips;
     myHeight = pHeight + frameHeightTwips;
-}
-
-void Form::WindowState(int pState) {
-    myWindowState = pState;
-    ++myRevision;
 }
 
 void Form::Load() {

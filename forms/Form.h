@@ -12,7 +12,7 @@
 
 class Runtime;
 
-class Form {
+class Form : public Shown {
 public:
     enum class BorderStyle { Sizable, FixedDialog };
     static constexpr int stateNormal = 0;
@@ -30,17 +30,14 @@ public:
     Form &operator=(const Form &) = delete;
 
     ::Runtime &Runtime() const { return myRuntime; }
-    const std::string &Caption() const { return myCaption; }
-    void Caption(std::string pCaption);
-
-    BorderStyle Border() const { return myBorder; }
-    void Border(BorderStyle pBorder) { myBorder = pBorder; }
+    Property<std::string> Caption{*this};
+    Property<BorderStyle> Border{*this};
 
     /// Outer size in twips. Setting a different value raises Resize at once.
     float Width() const { return myWidth; }
-    void Width(float pTwips);
+    void Width(float pTwips) { Change(myWidth, pTwips); }
     float Height() const { return myHeight; }
-    void Height(float pTwips);
+    void Height(float pTwips) { Change(myHeight, pTwips); }
 
     /// Size of the area below the menu bar, which holds the controls, in twips.
     float ClientWidth() const { return myWidth - frameWidthTwips; }
@@ -50,7 +47,10 @@ public:
 
     /// One of the three states above.
     int WindowState() const { return myWindowState; }
-    void WindowState(int pState);
+    void WindowState(int pState) {
+        myWindowState = pState;
+        Touch();
+    }
 
     /// Adds a control after the others. Throws std::invalid_argument if one of them has that name already.
     template <typename Kind> Kind &Add(const std::string &pName);
@@ -76,24 +76,19 @@ public:
     void UserPressesEscape() const;
     void UserPressesEnter() const;
 
-    /// Goes up when the program sets caption, state or size, and when it adds a control. The user's acts
-    /// don't change it.
-    int Revision() const { return myRevision; }
-
     Event<> LoadEvent;
     Event<> UnloadEvent;
     Event<> Resize;
 
 private:
+    void Change(float &pSize, float pTwips);
+
     ::Runtime &myRuntime;
-    std::string myCaption;
-    BorderStyle myBorder = BorderStyle::Sizable;
     float myWidth = 0;
     float myHeight = 0;
     int myWindowState = stateNormal;
     bool myIsLoaded = false;
     bool myIsShown = false;
-    int myRevision = 1;
     std::vector<std::unique_ptr<Control>> myControls;
     std::unordered_map<std::string, Control *> myByName;
 };
@@ -105,6 +100,6 @@ template <typename Kind> Kind &Form::Add(const std::string &pName) {
         throw std::invalid_argument("The form has a control " + pName + " already");
     }
     myControls.push_back(std::move(control));
-    ++myRevision;
+    Touch();
     return added;
 }

@@ -66,11 +66,6 @@ void ColumnHeaders::Width(int pIndex, float pTwips) {
 ListView::ListView(Form &pParent, std::string pName)
     : SizedControl(pParent, std::move(pName)), ListItems(*this), ColumnHeaders(*this) {}
 
-void ListView::View(ViewStyle pView) {
-    myView = pView;
-    Touch();
-}
-
 ListItem *ListView::SelectedItem() const {
     return mySelected == 0 ? nullptr : &ListItems(mySelected);
 }

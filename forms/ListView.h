@@ -94,8 +94,7 @@ public:
     ListView(Form &pParent, std::string pName);
     const char *TypeName() const override { return "ListView"; }
 
-    ViewStyle View() const { return myView; }
-    void View(ViewStyle pView);
+    Property<ViewStyle> View{*this};
 
     ::ListItems ListItems;
     ::ColumnHeaders ColumnHeaders;
@@ -141,7 +140,6 @@ private:
     void ItemAdded();
     void ItemRemoved(int pIndex);
 
-    ViewStyle myView = ViewStyle::Icon;
     int mySelected = 0;
     int myCurrent = 0;
     int myRowsRevision = 1;

@@ -57,7 +57,8 @@ frmAbout::frmAbout(Runtime &pRuntime)
     // Grey above white looks like one etched line.
     PlaceLine(myForm, "Line1(1)", 90, 2445, 1, grey);
     PlaceLine(myForm, "Line1(0)", 105, 2460, 2, white);
-    lblCopyright.LooksLikeLink(blue);
+    lblCopyright.IsLink(true);
+    lblCopyright.ForeColor(blue);
 
     myForm.LoadEvent.Connect([this] { Form_Load(); });
     lblCopyright.Click.Connect([this] { lblCopyright_Click(); });
