@@ -111,6 +111,7 @@ TEST_F(DatFile, ReadsWhatAFileHolds) {
         {dat, "x,2\r\na,b\r\n", "0x2:" + noNumber}, {dat, "2\r\na,b\r\n", "0x0:"},
         {csv, "a , \"b\"\r\nc,d", "2x2: a|b/c|d"}, {csv, "a,b\r\nc\r\nd,e\r\n", "1x2: a|b"}, {csv, "a,b\nc,d", "1x4: a|b|c|d"},
         {csv, "a,b\r\nc,d\r\n\r\ne,f\r\n", "2x2: a|b/c|d"}, {csvh, "x\r\na,b\r\nc,d\r\n", "2x2: a|b/c|d"},
+        {csv, std::string(32767, ',') + "a\r\n", "0x0:? has too many columns. A table holds at most 32767."},
         {csvh, "One,Two\r\n", "0x2:"}, {csv, "a,\r\nb,c\r\n", noFields}, {csvh, "a,b\r\n\r\nc,d\r\n", noFields},
         // NUL bytes, stray bytes and line ends of all kinds
         {csvh, "\xFF\0\r\n\"\0\",\xFF\0\x1A z\r"s, "1x2: \0|\xFF\0\x1A z"s},
