@@ -40,7 +40,7 @@ def session(d, share):
     d.focus(TITLE)
     lines = sample.read_bytes().split(b"\r\n")
     lines[1:3] = [lines[2].replace(b"Algiers", b'Algiers"",'), lines[1]]
-    d.expect(saved.read_bytes, b"\r\n".join(lines), "the saved file")
+    d.expect(lambda: saved.exists() and saved.read_bytes(), b"\r\n".join(lines), "the saved file")
 
     # Help, the About box, and the way out.
     page = (d.program.parent / "Help" / "NorvoEditDat.html").as_uri()
