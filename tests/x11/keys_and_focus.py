@@ -33,9 +33,13 @@ def session(d, _share):
     d.expect(d.focused, "Add", "the focus out of the field")
     assert (d.text("Fruit"), d.table().get_n_rows()) == ("Apple", 0), "a refused press was delivered"
 
-    # The close box asks nothing.
+    # The close box asks nothing. Too many words end the program with another status.
     d.key("alt+F4")
     assert d.ends() == (0, ""), d.ends()
+    d.start("1", "2", "3")
+    d.expect(d.focused, "OK", "the focus in the message")
+    d.key("Return")
+    assert d.ends() == (1, ""), d.ends()
 
 
 desk.main(session)
