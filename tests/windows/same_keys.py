@@ -19,13 +19,12 @@ from tools.screen import Screen, until
 
 TITLE = "Norvo Data File Editor"
 WINE = "/usr/lib/wine/wine64"
-ADD = "%32,-22"  # the button
 
 
 class Here:
     """The program of this system."""
 
-    save_title = "Save As"
+    titles = {"main": TITLE, "about": "About " + TITLE, "save": "Save As"}
 
     def __init__(self, program, folder):
         self.words, self.folder, self.environment = [program], folder, dict(os.environ)
@@ -37,19 +36,23 @@ class Here:
 
     def start(self, *words):
         self.editor = subprocess.Popen([*self.words, *words], cwd=self.folder, env=self.environment)
-        return hands.focus(TITLE)
+        self.do("^main")
 
-    def do(self, steps):
-        """Each step is a key, with the number of presses after "*", a 'text', an @picture, or a click %x,y. It counts
-        from the left and from the top of the editor's window, or up from the bottom if it is negative."""
+    def do(self, steps, **texts):
+        """Each step is a key, with the number of presses after "*", a 'text', a {text} of texts, an @picture, ^ and the
+        title of a window to wait for, or a click %x,y in that window. It counts from the left and from the top, or up
+        from the bottom if it is negative."""
         for step in re.findall(r"'[^']*'|\S+", steps):
-            if step[0] == "'":
-                hands.type_text(step[1:-1])
-            elif step[0] == "@":
-                self.picture(step[1:])
-            elif step[0] == "%":
-                left, top, _, height = hands.place(hands.focus(TITLE))
-                x, y = (int(number) * self.scale for number in step[1:].split(","))
+            sign, rest = step[0], step[1:].strip("'}")
+            if sign in "'{":
+                hands.type_text(rest if sign == "'" else texts[rest])
+            elif sign == "^":
+                self.window = hands.focus(self.titles.get(rest, rest))
+            elif sign == "@":
+                self.picture(rest)
+            elif sign == "%":
+                left, top, _, height = hands.place(self.window)
+                x, y = (int(number) * self.scale for number in rest.split(","))
                 hands.click(left + x, top + y + (height if y < 0 else 0))
             else:
                 key, _, times = step.partition("*")
@@ -62,16 +65,21 @@ class Here:
             hands.run("import", "-window", "root", str(file))
 
     def ends(self):
+        """Waits for the editor's end, and gives its status."""
         until(lambda: self.editor.poll() is not None, "the end of the editor")
         until(lambda: subprocess.run(["xdotool", "search", "--name", TITLE], capture_output=True).returncode,
               "no window of the editor")
         return self.editor.returncode
 
+    def leave(self):
+        self.do("alt+F4")
+        return self.ends()
+
 
 class There(Here):
     """The program for Windows, in a Wine of its own that shows it larger by scale."""
 
-    save_title = "Save"  # as Wine calls its dialog
+    titles = {**Here.titles, "save": "Save"}  # as Wine calls its dialog
 
     def __init__(self, program, folder, scale, pictures):
         super().__init__(program, folder)
@@ -86,6 +94,21 @@ class There(Here):
         start = folder / "start.bat"
         start.write_text('@"%s"\\%s %%*\r\n' % (self.path(folder / "the program"), program.name))
         self.words, self.scale, self.pictures = [WINE, "cmd", "/c", self.path(start)], scale, pictures
+
+    def paste_after_the_end(self):
+        """What was copied can be pasted once the editor has ended. On Linux that is up to the desktop."""
+        file = self.folder / "pasted.dat"
+        desktop = subprocess.Popen([WINE, "cmd"], stdin=subprocess.PIPE, stdout=subprocess.DEVNULL,
+                                   env=self.environment)  # Wine's lasts while a program runs.
+        self.start(file.name)
+        self.do("%60,55 'Copied' ctrl+a ctrl+c")
+        self.leave()
+        self.start(file.name)
+        self.do("%60,55 ctrl+v %32,-22")
+        save(self, file)
+        until(lambda: b"Copied" in file.read_bytes(), "what was copied")
+        self.leave()
+        desktop.communicate()
 
     def wine(self, *words):
         subprocess.run([WINE, *words], check=words[0] != "wineboot", capture_output=True, env=self.environment)
@@ -108,79 +131,67 @@ def answer(box, key):
     until(is_gone, "the end of the box %r" % box)
 
 
-def save(here, name):
-    file = here.folder / (name + ".dat")  # Wine's dialog would add it, which the system's doesn't.
-    here.do("alt+a")
-    hands.focus(here.save_title)
-    here.do("@save-%s Home shift+End" % name)  # Wine's dialog doesn't know Ctrl+A.
-    hands.type_text(here.path(file))
-    here.do("Return")
-    hands.focus(TITLE)
-    until(file.exists, name)
-
-
-def save_as_offered(here, file):
-    """Saves what is open, and ends the editor. The dialog offers its file, in the file's own folder."""
-    here.do("alt+a")
-    hands.focus(here.save_title)
-    here.do("@offered Return")
-    hands.focus(TITLE)
+def save(here, file, steps=""):
+    here.do("alt+a ^save @save-%s %s Return ^main" % (file.stem, steps), path=here.path(file))
     until(file.exists, file.name)
-    here.do("alt+F4")
-    return here.ends()
+
+
+def save_as(here, name):
+    file = here.folder / (name + ".dat")  # Wine's dialog would add it, which the system's doesn't.
+    save(here, file, "Home shift+End {path}")  # Wine's dialog doesn't know Ctrl+A.
 
 
 def edit(here):
     """The main job, by keys: pick, change, complete, be refused, update. Then by mouse and keys: pick a record, move
     and delete it, and add one."""
-    here.do("@start Tab*3 Down*2 Tab End quotedbl comma Tab ctrl+a 'Nowhere'")
-    here.do("alt+a Tab @refused")  # Neither gets out of the field.
+    # The field insists: neither Alt+A nor Tab gets out of it.
+    here.do("@start Tab*3 Down*2 Tab End quotedbl comma Tab ctrl+a 'Nowhere' alt+a Tab @refused")
     here.do("ctrl+a 'europe' Tab ctrl+a 'Germ' @completed Tab*2 shift+Tab*11 space")
-    save(here, "updated")
+    save_as(here, "updated")
     here.do("shift+Tab*6 %60,112 @picked %165,-22 %165,-22")
-    save(here, "moved")
+    save_as(here, "moved")
     here.do("%88,-22")
-    save(here, "deleted")
-    here.do("%60,55 ctrl+a 'Zone of mine' Tab 'Asia' Tab 'jap' Tab @typed " + ADD)
-    save(here, "added")
+    save_as(here, "deleted")
+    here.do("%60,55 ctrl+a 'Zone of mine' Tab 'Asia' Tab 'jap' Tab @typed %32,-22")
+    save_as(here, "added")
 
 
 def open_what_is_not_there(here):
     """Opens a name that isn't there, adds an empty record, and saves it under that name."""
+    file = here.folder / "new.dat"
     here.start()
-    here.do("space ctrl+o")
-    hands.focus("Open")
-    hands.type_text(here.path(here.folder / "new.dat"))
-    here.do("Return")
-    hands.focus(TITLE)
-    here.do("shift+Tab Tab space")
-    return save_as_offered(here, here.folder / "new.dat")
+    here.do("space ctrl+o ^Open {path} Return ^main shift+Tab Tab space", path=here.path(file))
+    save(here, file)
+    return here.leave()
+
+
+def save_as_offered(here, name):
+    """The dialog offers a file in its own folder, however it was named at the start."""
+    file = here.folder / name
+    file.parent.mkdir(exist_ok=True)
+    here.start(name)
+    here.do("shift+Tab Tab space")  # A click may come before the new window takes it.
+    save(here, file)
+    return here.leave()
 
 
 def work(here, share, opened):
-    window = here.start(here.path(share / "NorvoEditDat.dat"), here.path(share / "timezones.dat"))
+    here.start(here.path(share / "NorvoEditDat.dat"), here.path(share / "timezones.dat"))
     edit(here)
     # Wine lets the window manager make a window smaller than its least size, and doesn't notice.
-    hands.expect_drags(window, ((30, 100),))
-    here.picture("size")
-    hands.key("F1")
+    hands.expect_drags(here.window, ((30, 100),))
+    here.do("@size F1")
     hands.expect(lambda: opened.exists() and opened.read_text().count("NorvoEditDat.html"), 1, "the help page")
     opened.unlink()
-    hands.key("alt+h", "a")
-    hands.focus("About " + TITLE)
-    here.picture("about")
-    x, y = hands.place(hands.focus("About " + TITLE))[:2]
-    hands.click(x + 50 * here.scale, y + 185 * here.scale)  # the link
+    here.do("alt+h a ^about @about %50,185")  # the link
     hands.expect(lambda: opened.exists() and opened.read_text(), "https://norvo.example/\n", "the address")
     opened.unlink()
     answer("About " + TITLE, "Return")
     for key in ("Escape", "Return"):
-        hands.focus(TITLE)
-        hands.key("alt+f", "x")
-        hands.focus("Quit")
-        here.picture("quit")
+        here.do("^main alt+f x ^Quit @quit")
         answer("Quit", key)
-    return [here.ends(), open_what_is_not_there(here)]
+    return [here.ends(), open_what_is_not_there(here),
+            *(save_as_offered(here, name) for name in ("bare.dat", "below/named.dat"))]
 
 
 def main():
@@ -206,10 +217,11 @@ def main():
                 except BaseException:
                     here.picture("failed")
                     raise
-                assert statuses == [0] * 2, statuses
+                assert statuses == [0] * 4, statuses
+            both[1].paste_after_the_end()
         for other in both[1:]:
-            for name in ("updated.dat", "moved.dat", "deleted.dat", "added.dat", "new.dat"):
-                lines, wanted = ((here.folder / name).read_bytes().split(b"\r\n") for here in (other, both[0]))
+            for name in ("updated", "moved", "deleted", "added", "new", "bare", "below/named"):
+                lines, wanted = ((one.folder / f"{name}.dat").read_bytes().split(b"\r\n") for one in (other, both[0]))
                 assert lines == wanted, (name, other.scale, *next(pair for pair in zip(lines, wanted)
                                                                   if pair[0] != pair[1]))
         lines = (both[0].folder / "added.dat").read_bytes().split(b"\r\n")
