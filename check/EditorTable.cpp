@@ -1,17 +1,25 @@
 #include "check/EditorTable.h"
 
-#include <stdexcept>
 #include <utility>
 
+namespace {
+
+/// Thrown where the editor would end, with its last message.
+struct EditorEnded {
+    std::string message;
+};
+
+} // namespace
+
 EditorTable::EditorTable(const std::string &pFile, std::int16_t pFmt, const std::vector<std::string> &pTitles)
-    : table([](std::string_view pText) { throw std::runtime_error(std::string(pText)); }), fmt(pFmt) {
+    : table([](std::string_view pText) { throw EditorEnded{std::string(pText)}; }), fmt(pFmt) {
     table.FileName(pFile);
     table.Fmt(pFmt);
     table.Headers(pTitles);
     try {
         table.Load();
-    } catch (const std::runtime_error &end) {
-        lastMessage = end.what();
+    } catch (const EditorEnded &end) {
+        lastMessage = end.message;
         return;
     }
     if (table.WasRead() && table.Cols() > 0 && table.Rows() > 0) {
